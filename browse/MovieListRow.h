@@ -1,0 +1,9 @@
+#pragma once
+
+#include "browse/MainListTableViewCell.h"
+#include "model/Movies.h"
+
+// The row that shows `movie` in a list sorted by `sortName`. `blackText`: the list is in dark style, where
+// the row stays light.
+[[nodiscard]] MainListTableViewCell movieListRow(const Movies& movie, const QString& sortName,
+                                                 bool blackText);

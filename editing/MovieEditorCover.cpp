@@ -1,0 +1,78 @@
+// Where a movie editor's cover comes from.
+
+#include "editing/CoverImage.h"
+#include "editing/MovieEditorViewController.h"
+#include "platform/foundation/Console.h"
+#include "platform/services/Device.h"
+
+namespace {
+
+constexpr double contentTypesFrom = 14;
+
+QStringList coverContentTypes()
+{
+    QStringList types{QStringLiteral("public.data")};
+    if (Device::current().systemVersion >= contentTypesFrom)
+        types << QStringLiteral("public.jpeg") << QStringLiteral("public.png");
+    return types;
+}
+
+} // namespace
+
+void MovieEditorViewController::OpenFrontCamera()
+{
+    if (!UIImagePickerController::isCameraAvailable()) {
+        showAlert(QStringLiteral("Camera"), QStringLiteral("There is no camera available"));
+        return;
+    }
+    isFrontImage = true;
+    isFromCamera = true;
+    present(std::make_unique<UIImagePickerController>(*this));
+}
+
+void MovieEditorViewController::didFinishPickingMediaWithInfo(UIImagePickerController& /*picker*/,
+                                                              const QVariantMap& info)
+{
+    const QImage image = info.value(UIImagePickerControllerOriginalImage).value<QImage>();
+    if (image.isNull())
+        return;
+    chosenFrontImage = image;
+    coverView->setImage(image);
+    isFrontImage = false;
+    isFromCamera = false;
+    dismiss();
+}
+
+void MovieEditorViewController::imagePickerControllerDidCancel(UIImagePickerController& /*picker*/)
+{
+    dismiss();
+}
+
+void MovieEditorViewController::PasteImage()
+{
+    const Pasteboard& pasteboard = *Device::current().pasteboard;
+    // One that doesn't decode is none: it must not take away the cover shown.
+    const QImage image = pasteboard.hasImages() ? pasteboard.image() : QImage();
+    if (image.isNull())
+        showAlert(QStringLiteral("Clipboard"), QStringLiteral("There is no image in the Clipboard"));
+    else
+        coverView->setImage(image);
+}
+
+void MovieEditorViewController::AttachFrontImage()
+{
+    isFrontImage = true;
+    present(std::make_unique<UIDocumentPickerViewController>(coverContentTypes(), *this));
+}
+
+void MovieEditorViewController::didPickDocumentsAtURLs(UIDocumentPickerViewController& /*picker*/,
+                                                       const QList<QUrl>& urls)
+{
+    console(QStringLiteral("Chosen"));
+    document = urls.first();
+    const QImage image = imageInFile(document);
+    if (image.isNull())
+        return;
+    coverView->setContentMode(UIImageView::ContentMode::ScaleAspectFit);
+    coverView->setImage(image);
+}

@@ -1,0 +1,21 @@
+#include "model/AppDelegate.h"
+#include "platform/services/Device.h"
+#include "storyboard/MainWindow.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("marrowvale"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Marrowvale"));
+    QApplication::setDesktopFileName(QStringLiteral("marrowvale"));
+
+    const auto device = makeLinuxDevice();
+    AppDelegate delegate;
+    if (!delegate.didFinishLaunchingWithOptions())
+        return 1;
+    MainWindow window;
+    window.show();
+    return QApplication::exec();
+}

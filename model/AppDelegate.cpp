@@ -1,0 +1,56 @@
+#include "model/AppDelegate.h"
+
+#include "model/MarrowvaleModel.h"
+#include "platform/foundation/Console.h"
+
+namespace {
+
+AppDelegate* sharedDelegate = nullptr;
+
+void requireSuccess(const Status& status)
+{
+    if (!status)
+        fatalError(QStringLiteral("Unresolved error ") + status.error().debugText());
+}
+
+} // namespace
+
+AppDelegate::AppDelegate()
+{
+    sharedDelegate = this;
+}
+
+AppDelegate::~AppDelegate()
+{
+    sharedDelegate = nullptr;
+}
+
+AppDelegate& AppDelegate::shared()
+{
+    if (!sharedDelegate)
+        fatalError(QStringLiteral("There is no application delegate"));
+    return *sharedDelegate;
+}
+
+bool AppDelegate::didFinishLaunchingWithOptions()
+{
+    return true;
+}
+
+NSPersistentContainer& AppDelegate::persistentContainer()
+{
+    if (!container) {
+        auto opened = std::make_unique<NSPersistentContainer>(QStringLiteral("Marrowvale"),
+                                                              MarrowvaleModel::description());
+        requireSuccess(opened->loadPersistentStores());
+        container = std::move(opened);
+    }
+    return *container;
+}
+
+void AppDelegate::saveContext()
+{
+    auto& context = persistentContainer().viewContext();
+    if (context.hasChanges())
+        requireSuccess(context.save());
+}

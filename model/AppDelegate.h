@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/store/NSPersistentContainer.h"
+
+// The application's one delegate: it owns the catalogue's store. While it lives it is the shared one, so
+// there is at most one at a time; screens must not outlive it.
+class AppDelegate
+{
+public:
+    AppDelegate();
+    ~AppDelegate();
+    AppDelegate(const AppDelegate&) = delete;
+    AppDelegate& operator=(const AppDelegate&) = delete;
+
+    // A fatal error when there is none.
+    static AppDelegate& shared();
+
+    // True, always; whatever needs the store opens it by using it.
+    bool didFinishLaunchingWithOptions();
+
+    // The container "Marrowvale" in the user's data directory. The first call opens it; a store that cannot
+    // be opened is a fatal error.
+    NSPersistentContainer& persistentContainer();
+
+    // Saves the view context when it has changes; a save that fails is a fatal error.
+    void saveContext();
+
+private:
+    std::unique_ptr<NSPersistentContainer> container;
+};

@@ -1,0 +1,7 @@
+#include "model/SharedValues.h"
+
+SharedValues& shared()
+{
+    static SharedValues values;
+    return values;
+}

@@ -1,0 +1,26 @@
+#include "platform/foundation/Console.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+void writeLine(std::FILE* stream, const QByteArray& line)
+{
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stream);
+    std::fputc('\n', stream);
+    std::fflush(stream);
+}
+
+} // namespace
+
+void console(const QString& line)
+{
+    writeLine(stdout, line.toUtf8());
+}
+
+void fatalError(const QString& text)
+{
+    writeLine(stderr, "Fatal error: " + text.toUtf8());
+    std::abort();
+}

@@ -1,0 +1,37 @@
+#include "platform/foundation/Text.h"
+
+#include <algorithm>
+
+namespace {
+
+bool isBlankOrTab(QChar character)
+{
+    return character == u' ' || character == u'\t';
+}
+
+bool isAsciiDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+} // namespace
+
+QString trimmingWhitespace(const QString& text)
+{
+    const auto first = std::find_if_not(text.cbegin(), text.cend(), isBlankOrTab);
+    const auto last =
+        std::find_if_not(text.crbegin(), std::make_reverse_iterator(first), isBlankOrTab).base();
+    return QString(first, last - first);
+}
+
+std::optional<qint16> int16From(const QString& text)
+{
+    const bool isSigned = text.startsWith(u'+') || text.startsWith(u'-');
+    const QStringView digits = QStringView(text).mid(isSigned ? 1 : 0);
+    // toShort alone would also take surrounding blanks.
+    if (!std::all_of(digits.cbegin(), digits.cend(), isAsciiDigit))
+        return std::nullopt;
+    bool ok = false;
+    const qint16 number = text.toShort(&ok);
+    return ok ? std::optional(number) : std::nullopt;
+}

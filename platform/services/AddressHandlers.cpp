@@ -1,0 +1,13 @@
+#include "platform/services/AddressHandlers.h"
+
+// GIO has members named `signals`: the one file that includes it, and it relies on QT_NO_KEYWORDS.
+#include <gio/gio.h>
+
+bool hasHandlerFor(const char* scheme)
+{
+    GAppInfo* handler = g_app_info_get_default_for_uri_scheme(scheme);
+    if (handler == nullptr)
+        return false;
+    g_object_unref(handler);
+    return true;
+}

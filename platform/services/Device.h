@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/services/Camera.h"
+#include "platform/services/Documents.h"
+#include "platform/services/InterfaceStyle.h"
+#include "platform/services/Pasteboard.h"
+#include "platform/services/TextMessages.h"
+
+#include <memory>
+
+// Everything the device supplies beside screen and storage. One is current from its construction to its
+// destruction; the services of a current device are never null.
+struct Device
+{
+    Device();
+    ~Device();
+    Device(const Device&) = delete;
+    Device& operator=(const Device&) = delete;
+
+    // The one in force; none is a programming error that ends the program.
+    [[nodiscard]] static Device& current();
+
+    // Major and minor version of the platform; below 13, 13.4 and 14 screens take their fallbacks.
+    double systemVersion = 14;
+
+    std::unique_ptr<TextMessages> textMessages;
+    std::unique_ptr<Documents> documents;
+    std::unique_ptr<Pasteboard> pasteboard;
+    std::unique_ptr<Camera> camera;
+    std::unique_ptr<InterfaceStyle> interfaceStyle;
+};
+
+// The desktop or phone that the program runs on. Needs a QApplication.
+[[nodiscard]] std::unique_ptr<Device> makeLinuxDevice();

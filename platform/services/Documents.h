@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+#include <functional>
+#include <optional>
+
+// The user's files, reached through the desktop's own file dialogs. Nothing blocks: the outcome is told
+// later, on the main thread, once per call. One dialog at a time: a new one cancels what is open.
+class Documents
+{
+public:
+    virtual ~Documents() = default;
+
+    struct Request
+    {
+        QString title;
+        // Such as "Images (*.png *.jpg)"; the last one lets every file through. Empty: every file.
+        QStringList nameFilters;
+    };
+    // Absent: cancelled.
+    using Picked = std::function<void(std::optional<QUrl>)>;
+    virtual void pickDocument(const Request& request, Picked picked) = 0;
+    // Takes the dialog away, untold; none open: does nothing.
+    virtual void cancelPicking() = 0;
+
+    // Empty: saved. Else a sentence for people.
+    using Saved = std::function<void(const QString& problem)>;
+    // Asks where to save `content`, suggesting `name`, and writes it there whole or not at all. A cancelled
+    // dialog tells nothing.
+    virtual void saveDocument(const QString& name, const QByteArray& content, Saved saved) = 0;
+};

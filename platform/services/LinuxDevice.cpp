@@ -1,0 +1,32 @@
+#include "platform/services/Device.h"
+#include "platform/services/LinuxDocuments.h"
+#include "platform/services/LinuxPasteboard.h"
+#include "platform/services/LinuxTextMessages.h"
+#include "platform/services/NoCamera.h"
+#include "platform/services/PortalInterfaceStyle.h"
+
+#include <QFile>
+
+namespace {
+
+// Without an address the bus library would start a bus of its own, which takes long and serves nobody.
+QDBusConnection sessionBusIfAny()
+{
+    const QString runtimeBus = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
+    if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") || QFile::exists(runtimeBus))
+        return QDBusConnection::sessionBus();
+    return QDBusConnection(QString());
+}
+
+} // namespace
+
+std::unique_ptr<Device> makeLinuxDevice()
+{
+    auto device = std::make_unique<Device>();
+    device->textMessages = std::make_unique<LinuxTextMessages>();
+    device->documents = std::make_unique<LinuxDocuments>();
+    device->pasteboard = std::make_unique<LinuxPasteboard>();
+    device->camera = std::make_unique<NoCamera>();
+    device->interfaceStyle = std::make_unique<PortalInterfaceStyle>(sessionBusIfAny());
+    return device;
+}

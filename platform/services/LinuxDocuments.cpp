@@ -1,0 +1,84 @@
+#include "platform/services/LinuxDocuments.h"
+
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <QWindow>
+
+namespace {
+
+// Keeps the dialog above the program's window, which no widget knows of.
+void stackAbove(QWidget& dialog, QWindow* window)
+{
+    dialog.winId();
+    if (window != nullptr && dialog.windowHandle() != nullptr)
+        dialog.windowHandle()->setTransientParent(window);
+}
+
+QString writeWhole(const QString& path, const QByteArray& content)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+        return {};
+    return file.errorString();
+}
+
+} // namespace
+
+LinuxDocuments::~LinuxDocuments()
+{
+    cancelPicking();
+}
+
+void LinuxDocuments::pickDocument(const Request& request, Picked picked)
+{
+    QFileDialog& opened = newDialog(request.title, [tell = std::move(picked)](const QList<QUrl>& chosen) {
+        tell(chosen.isEmpty() ? std::nullopt : std::optional(chosen.first()));
+    });
+    opened.setFileMode(QFileDialog::ExistingFile);
+    if (!request.nameFilters.isEmpty())
+        opened.setNameFilters(request.nameFilters);
+    opened.open();
+}
+
+void LinuxDocuments::saveDocument(const QString& name, const QByteArray& content, Saved saved)
+{
+    const auto save = [content, tell = std::move(saved)](const QList<QUrl>& chosen) {
+        if (!chosen.isEmpty())
+            tell(writeWhole(chosen.first().toLocalFile(), content));
+    };
+    QFileDialog& opened = newDialog(QStringLiteral("Save to Files"), save);
+    opened.setAcceptMode(QFileDialog::AcceptSave);
+    opened.selectFile(name);
+    opened.open();
+}
+
+void LinuxDocuments::cancelPicking()
+{
+    if (!dialog)
+        return;
+    dialog->disconnect();
+    dialog->close();
+    dialog.clear();
+}
+
+QFileDialog& LinuxDocuments::newDialog(const QString& title, Answered answered)
+{
+    if (dialog)
+        dialog->reject();
+    cancelPicking();
+    QWindow* window = QGuiApplication::focusWindow();
+    dialog =
+        new QFileDialog(nullptr, title, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setSupportedSchemes({QStringLiteral("file")});
+    stackAbove(*dialog, window);
+    QObject::connect(dialog, &QFileDialog::finished, dialog,
+                     [this, &finished = *dialog, tell = std::move(answered)](int result) {
+                         // What is told may open the next dialog.
+                         dialog.clear();
+                         tell(result == QDialog::Accepted ? finished.selectedUrls() : QList<QUrl>());
+                     });
+    return *dialog;
+}

@@ -1,0 +1,95 @@
+// How a context's changes reach the database: written into a transaction before anything is queried, made
+// permanent by a save.
+#include "platform/store/Database.h"
+#include "platform/store/EntityTable.h"
+#include "platform/store/NSManagedObjectContext.h"
+
+Status NSManagedObjectContext::flush()
+{
+    noticeRollback();
+    while (const auto object = unsaved.next()) {
+        if (const auto begun = begin(); !begun)
+            return begun;
+        if (const auto written = requireTable(object->entity().name).write(*object); !written) {
+            noticeRollback();
+            return written;
+        }
+        unsaved.markWritten(*object);
+    }
+    return success();
+}
+
+Status NSManagedObjectContext::begin()
+{
+    if (transactionOpen)
+        return success();
+    if (const auto set = setRelaxed(bulkScopes > 0); !set)
+        return set;
+    const auto begun = database->run("BEGIN IMMEDIATE");
+    transactionOpen = begun.ok();
+    return begun;
+}
+
+Status NSManagedObjectContext::save()
+{
+    if (!hasChanges())
+        return success();
+    if (const auto flushed = flush(); !flushed)
+        return flushed;
+    if (transactionOpen) {
+        if (const auto committed = database->run("COMMIT"); !committed) {
+            noticeRollback();
+            return committed;
+        }
+    }
+    transactionOpen = false;
+    settle();
+    endRelaxed();
+    return success();
+}
+
+void NSManagedObjectContext::settle()
+{
+    for (const auto& object : unsaved.takeAll()) {
+        object->values.settle(object->entity());
+        object->isNew = false;
+    }
+}
+
+// SQLite may give up a whole transaction when it fails, on a full disk for one. What was written is then to
+// be written again, and new objects stand for no row.
+void NSManagedObjectContext::noticeRollback()
+{
+    if (!transactionOpen || database->inTransaction())
+        return;
+    transactionOpen = false;
+    for (const auto& object : unsaved.takeAll()) {
+        if (object->isNew) {
+            requireTable(object->entity().name).forget(*object);
+            object->recordId = 0;
+        }
+        if (!object->isNew || !object->isDeleted)
+            unsaved.note(*object);
+    }
+    for (const auto& table : tables)
+        table->distrustCounts();
+}
+
+Status NSManagedObjectContext::setRelaxed(bool relaxed)
+{
+    if (relaxed == isRelaxed)
+        return success();
+    const auto set = database->run(relaxed ? "PRAGMA synchronous = NORMAL" : "PRAGMA synchronous = FULL");
+    isRelaxed = set ? relaxed : isRelaxed;
+    return set;
+}
+
+// A checkpoint brings the log to the disk before it copies it, and so makes the relaxed saves durable. Should
+// it fail, the next strict save does, for it brings the same log to the disk.
+void NSManagedObjectContext::endRelaxed()
+{
+    if (!isRelaxed || bulkScopes > 0 || transactionOpen)
+        return;
+    if (setRelaxed(false))
+        (void)database->run("PRAGMA wal_checkpoint(FULL)").ok();
+}

@@ -1,0 +1,124 @@
+#pragma once
+
+#include "platform/foundation/Result.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+// One run of a prepared statement. Values are bound in order, the first to the first parameter, and never
+// become part of the statement's text. The statement goes back to its database when the query ends: before
+// the database does, and before the same text is queried again. Whatever went wrong before the first `step`
+// is what that step reports.
+class Query
+{
+public:
+    explicit Query(sqlite3_stmt* prepared)
+        : statement(prepared)
+    {
+    }
+    explicit Query(NSError whyNot)
+        : failure(std::move(whyNot))
+    {
+    }
+
+    void bind(qint64 number);
+    void bind(const QString& text);
+    void bind(const QDateTime& moment);
+    void bindBlob(const QByteArray& bytes);
+    void bindNull();
+
+    // To the next row; false when there is none. Of a statement without rows: runs it.
+    [[nodiscard]] Result<bool> step();
+
+    // Calls `visit` at every row, to the last.
+    template <typename Visit>
+    [[nodiscard]] Status forEachRow(Visit visit);
+    // To the end of a statement whose rows do not matter.
+    [[nodiscard]] Status run()
+    {
+        return forEachRow([] {});
+    }
+
+    // The columns of the present row, from 0. Views last until the next step.
+    [[nodiscard]] bool isNull(int column) const;
+    [[nodiscard]] qint64 number(int column) const;
+    [[nodiscard]] QByteArrayView text(int column) const;
+    [[nodiscard]] QByteArrayView blob(int column) const;
+
+private:
+    struct Release
+    {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+
+    void noteBinding(int code);
+
+    std::unique_ptr<sqlite3_stmt, Release> statement;
+    int parameters = 0;
+    std::optional<NSError> failure;
+};
+
+template <typename Visit>
+Status Query::forEachRow(Visit visit)
+{
+    for (;;) {
+        const auto stepped = step();
+        if (!stepped)
+            return stepped.error();
+        if (!stepped.value())
+            return success();
+        visit();
+    }
+}
+
+// One connection to a database file, for one thread. Prepared statements are kept by their text. Errors carry
+// SQLite's extended code and message in their userInfo.
+class Database
+{
+public:
+    enum class Access {
+        // Reads and writes, and makes the file when it is missing. Another writer is waited for, a few
+        // seconds.
+        ReadWrite,
+        // Reads the file as it lies there, without its log; takes no lock and leaves no trace.
+        Untouched
+    };
+
+    [[nodiscard]] static Result<std::unique_ptr<Database>> open(const QString& path, Access access);
+
+    [[nodiscard]] Query query(const QByteArray& sql);
+    [[nodiscard]] Status run(const QByteArray& sql) { return query(sql).run(); }
+    // The first column of the first row; 0 without rows.
+    [[nodiscard]] Result<qint64> number(const QByteArray& sql);
+
+    // False also when SQLite itself gave the transaction up, as it may when the disk is full.
+    [[nodiscard]] bool inTransaction() const;
+    [[nodiscard]] qint64 lastInsertId() const;
+    [[nodiscard]] bool isReadOnly() const;
+    // Whether closing the last connection moves the log into the file (it does) or leaves both as they are.
+    void setCheckpointsOnClose(bool on);
+
+private:
+    struct Close
+    {
+        void operator()(sqlite3* handle) const;
+    };
+    struct Finalize
+    {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+
+    explicit Database(sqlite3* opened)
+        : handle(opened)
+    {
+    }
+
+    std::unique_ptr<sqlite3, Close> handle;
+    std::unordered_map<QByteArray, std::unique_ptr<sqlite3_stmt, Finalize>> statements;
+};

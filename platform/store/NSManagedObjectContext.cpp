@@ -1,0 +1,79 @@
+#include "platform/store/NSManagedObjectContext.h"
+
+#include "platform/store/Database.h"
+#include "platform/store/EntityTable.h"
+
+NSManagedObjectContext::NSManagedObjectContext(const NSManagedObjectModel& model,
+                                               std::unique_ptr<Database> opened)
+    : database(std::move(opened))
+{
+    for (const auto& entity : model.entities)
+        tables.push_back(std::make_unique<EntityTable>(entity, *this, *database));
+}
+
+NSManagedObjectContext::~NSManagedObjectContext()
+{
+    tables.clear();
+    for (const auto& object : unsaved.takeAll())
+        object->context = nullptr;
+}
+
+EntityTable& NSManagedObjectContext::requireTable(const QString& entityName) const
+{
+    for (const auto& table : tables) {
+        if (table->entity().name == entityName)
+            return *table;
+    }
+    fatalError(QStringLiteral("The model has no entity called %1").arg(entityName));
+}
+
+Status NSManagedObjectContext::collect(const NSFetchRequest& request, const Sink& sink)
+{
+    auto& table = requireTable(request.entityName);
+    const auto flushed = flush();
+    return flushed ? table.fetch(request, sink) : flushed;
+}
+
+Result<qsizetype> NSManagedObjectContext::count(const NSFetchRequest& request)
+{
+    auto& table = requireTable(request.entityName);
+    if (const auto flushed = flush(); !flushed)
+        return flushed.error();
+    return table.count(request);
+}
+
+std::shared_ptr<NSManagedObject> NSManagedObjectContext::insert(const QString& entityName)
+{
+    const auto& entity = requireTable(entityName).entity();
+    auto object = entity.factory(entity, *this);
+    object->values = RecordValues::defaultsOf(entity);
+    object->isNew = true;
+    unsaved.note(*object);
+    return object;
+}
+
+void NSManagedObjectContext::deleteObject(const std::shared_ptr<NSManagedObject>& object)
+{
+    if (object->context != this)
+        return;
+    object->context = nullptr;
+    if (object->recordId == 0) {
+        unsaved.drop(*object);
+        return;
+    }
+    requireTable(object->entity().name).forget(*object);
+    object->isDeleted = true;
+    unsaved.note(*object);
+}
+
+void NSManagedObjectContext::forget(const NSManagedObject& object)
+{
+    if (object.recordId != 0)
+        requireTable(object.entity().name).forget(object);
+}
+
+std::optional<QByteArray> NSManagedObjectContext::storedBinary(const NSManagedObject& object, int index)
+{
+    auto read = requireTable(object.entity().name).binary(object, index);
+    return read ? std::move(read).value() : std::nullopt;
+}

@@ -1,0 +1,36 @@
+#include "platform/store/NSPersistentContainer.h"
+
+#include "platform/store/Database.h"
+#include "platform/store/StoreFile.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+NSPersistentContainer::NSPersistentContainer(QString name, const NSManagedObjectModel& model)
+    : containerName(std::move(name))
+    , managedObjectModel(model)
+{
+}
+
+QString NSPersistentContainer::defaultDirectory() const
+{
+    const auto data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return data + QLatin1Char('/') + containerName.toLower();
+}
+
+Status NSPersistentContainer::loadPersistentStores(const QString& directory)
+{
+    const auto path = QDir(directory).absoluteFilePath(containerName + QStringLiteral(".sqlite"));
+    auto opened = openStoreFile(path, managedObjectModel);
+    if (!opened)
+        return opened.error();
+    context = std::make_unique<NSManagedObjectContext>(managedObjectModel, std::move(opened).value());
+    return success();
+}
+
+NSManagedObjectContext& NSPersistentContainer::viewContext() const
+{
+    if (!context)
+        fatalError(QStringLiteral("The container %1 has not loaded its stores").arg(containerName));
+    return *context;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/store/NSManagedObjectContext.h"
+
+// A store file and the context through which everything in it is read and written. The model outlives the
+// container.
+class NSPersistentContainer
+{
+public:
+    // Also the name of the file, <name>.sqlite.
+    NSPersistentContainer(QString name, const NSManagedObjectModel& model);
+
+    // Opens the file in `directory`, or makes both, readable by their owner alone, and brings an older file
+    // to the model's version. When it cannot be opened, is no store of this model, or was made by a newer
+    // version, that is the error, and the file stays exactly as it was. Several containers may open one file.
+    [[nodiscard]] Status loadPersistentStores(const QString& directory);
+    // In the user's data directory.
+    [[nodiscard]] Status loadPersistentStores() { return loadPersistentStores(defaultDirectory()); }
+
+    [[nodiscard]] QString name() const { return containerName; }
+    // $XDG_DATA_HOME/<name in lower case>.
+    [[nodiscard]] QString defaultDirectory() const;
+
+    // Only after the stores were loaded.
+    [[nodiscard]] NSManagedObjectContext& viewContext() const;
+
+private:
+    QString containerName;
+    const NSManagedObjectModel& managedObjectModel;
+    std::unique_ptr<NSManagedObjectContext> context;
+};

@@ -1,0 +1,110 @@
+#include "platform/store/StoreFile.h"
+
+#include "platform/store/Database.h"
+#include "platform/store/Migrations.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+constexpr auto ownerOnlyFile = QFile::ReadOwner | QFile::WriteOwner;
+constexpr auto ownerOnlyDirectory = ownerOnlyFile | QFile::ExeOwner;
+
+NSError refusal(const QString& sentence)
+{
+    return {sentence, {}};
+}
+
+Status prepareFile(const QFileInfo& file)
+{
+    QDir directory = file.dir();
+    if (!directory.exists()) {
+        const auto name = directory.dirName();
+        const auto parent = QFileInfo(directory.path()).path();
+        if (!QDir().mkpath(parent) || !QDir(parent).mkdir(name, ownerOnlyDirectory))
+            return refusal(QStringLiteral("The directory for the store could not be made."));
+    }
+    if (file.exists() && !file.isFile())
+        return refusal(QStringLiteral("Something that is not a file is in the store's place."));
+    if (file.size() > 0)
+        return success();
+    QFile fresh(file.filePath());
+    if (!fresh.open(QIODevice::ReadWrite, ownerOnlyFile) || !fresh.setPermissions(ownerOnlyFile))
+        return refusal(QStringLiteral("The store could not be made."));
+    return success();
+}
+
+// An empty database is accepted too: it is what is left when the making of a store was cut short.
+Status checkOwnership(Database& database, const NSManagedObjectModel& model)
+{
+    const auto application = database.number("PRAGMA application_id");
+    const auto version = database.number("PRAGMA user_version");
+    const auto parts = database.number("SELECT COUNT(*) FROM sqlite_schema");
+    for (const auto& answer : {application, version, parts}) {
+        if (!answer)
+            return answer.error();
+    }
+    const auto isFresh = application.value() == 0 && version.value() == 0 && parts.value() == 0;
+    if (!isFresh && application.value() != model.applicationId)
+        return refusal(QStringLiteral("The file is not a store of this program."));
+    if (version.value() > model.version())
+        return refusal(QStringLiteral("The store was made by a newer version of this program."));
+    return success();
+}
+
+// Looks at the file without SQLite's usual traces. A file whose writing was cut short (it has a journal) only
+// makes sense once SQLite has repaired it.
+Status inspectUntouched(const QString& path, const NSManagedObjectModel& model)
+{
+    if (QFileInfo(path).size() == 0 || QFileInfo::exists(path + QStringLiteral("-journal")))
+        return success();
+    auto opened = Database::open(path, Database::Access::Untouched);
+    return opened ? checkOwnership(*opened.value(), model) : Status(opened.error());
+}
+
+// The same look through the log, where a newer version's last steps may still be: until it is over, nothing
+// is written and closing moves nothing.
+Status inspectWithLog(Database& database, const NSManagedObjectModel& model)
+{
+    if (database.isReadOnly())
+        return refusal(QStringLiteral("The store cannot be written to."));
+    database.setCheckpointsOnClose(false);
+    const auto checked = checkOwnership(database, model);
+    database.setCheckpointsOnClose(checked.ok());
+    return checked;
+}
+
+Status makeReady(Database& database, const NSManagedObjectModel& model)
+{
+    if (const auto inspected = inspectWithLog(database, model); !inspected)
+        return inspected;
+    for (const auto* setting : {"PRAGMA trusted_schema = OFF", "PRAGMA foreign_keys = ON",
+                                "PRAGMA journal_mode = WAL", "PRAGMA synchronous = FULL"}) {
+        if (const auto set = database.run(setting); !set)
+            return set;
+    }
+    return migrate(database, model);
+}
+
+} // namespace
+
+Result<std::unique_ptr<Database>> openStoreFile(const QString& path, const NSManagedObjectModel& model)
+{
+    const auto withPath = [&](NSError error) {
+        error.userInfo.insert(QStringLiteral("path"), path);
+        return error;
+    };
+    if (const auto prepared = prepareFile(QFileInfo(path)); !prepared)
+        return withPath(prepared.error());
+    if (const auto inspected = inspectUntouched(path, model); !inspected)
+        return withPath(inspected.error());
+    auto opened = Database::open(path, Database::Access::ReadWrite);
+    if (!opened)
+        return withPath(opened.error());
+    auto database = std::move(opened).value();
+    if (const auto ready = makeReady(*database, model); !ready)
+        return withPath(ready.error());
+    return database;
+}

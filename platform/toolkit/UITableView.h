@@ -1,0 +1,85 @@
+#pragma once
+
+#include "platform/toolkit/Appearance.h"
+#include "platform/toolkit/UIMenu.h"
+
+#include <QAbstractListModel>
+
+// The place of a row. Tables here have one section.
+struct NSIndexPath
+{
+    int row = 0;
+    int section = 0;
+
+    bool operator==(const NSIndexPath&) const = default;
+};
+
+// What a table asks for its contents and tells of the user's acts. Rows outside the table are never asked
+// for.
+class UITableViewDataSource
+{
+public:
+    virtual ~UITableViewDataSource() = default;
+
+    [[nodiscard]] virtual int numberOfSectionsInTableView() { return 1; }
+    [[nodiscard]] virtual int numberOfRowsInSection(int section) = 0;
+    // A gadget holding the row's outlets.
+    [[nodiscard]] virtual QVariant cellForRowAt(const NSIndexPath& indexPath) = 0;
+    [[nodiscard]] virtual double heightForRowAt(const NSIndexPath& indexPath) = 0;
+    // Absent: the table has no header.
+    [[nodiscard]] virtual std::optional<LabelContent> viewForHeaderInSection(int section) = 0;
+    [[nodiscard]] virtual bool canEditRowAt(const NSIndexPath& indexPath) = 0;
+    [[nodiscard]] virtual std::vector<UIAction>
+    trailingSwipeActionsConfigurationForRowAt(const NSIndexPath& indexPath) = 0;
+    virtual void didSelectRowAt(const NSIndexPath& indexPath) = 0;
+};
+
+// A scrolling list of rows, made only as they come into sight: the one role `cell` asks the data source.
+class UITableView : public QAbstractListModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Tables belong to screens")
+    Q_PROPERTY(LabelContent header READ header NOTIFY headerChanged FINAL)
+    Q_PROPERTY(bool hasHeader READ hasHeader NOTIFY headerChanged FINAL)
+    Q_PROPERTY(double rowHeight READ rowHeight NOTIFY headerChanged FINAL)
+    Q_PROPERTY(int count READ count NOTIFY headerChanged FINAL)
+
+public:
+    static constexpr int CellRole = Qt::UserRole;
+    enum class EditingStyle { None, Delete, Insert };
+
+    // `source` must outlive the table.
+    explicit UITableView(UITableViewDataSource& source, QObject* parent = nullptr);
+
+    // Shows what the data source holds now. The place scrolled to stays.
+    void reloadData();
+    // Takes one row out, fading; the data source must already lack it.
+    void deleteRowAt(const NSIndexPath& indexPath);
+
+    [[nodiscard]] LabelContent header() const;
+    [[nodiscard]] bool hasHeader() const;
+    [[nodiscard]] double rowHeight() const;
+    [[nodiscard]] int count() const { return rows; }
+
+    // The user tapped a row.
+    Q_INVOKABLE void select(int row);
+    // The titles of the buttons that a swipe uncovers; none where a row can't be edited.
+    Q_INVOKABLE QStringList swipeActionTitles(int row) const;
+    Q_INVOKABLE void performSwipeAction(int row, int action);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void headerChanged();
+    // A row was tapped and the data source knows of it: the layout's segue follows.
+    void selected(int row);
+
+private:
+    [[nodiscard]] bool holds(int row) const { return row >= 0 && row < rows; }
+
+    UITableViewDataSource& source;
+    int rows = 0;
+};

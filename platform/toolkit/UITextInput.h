@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/toolkit/UIControl.h"
+
+// A stretch of a text, in UTF-16 units.
+struct NSRange
+{
+    qsizetype location = 0;
+    qsizetype length = 0;
+
+    bool operator==(const NSRange&) const = default;
+};
+
+// What UITextField and UITextView share: a text that the user edits, guarded by a delegate. Text set by code
+// passes unguarded and is not told as an edit.
+class UITextInput : public UIControl
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Views belong to screens")
+    Q_PROPERTY(QString text READ text NOTIFY changed FINAL)
+    Q_PROPERTY(bool editing READ isEditing NOTIFY changed FINAL)
+
+public:
+    using UIControl::UIControl;
+
+    [[nodiscard]] QString text() const { return content; }
+    void setText(const QString& value) { assign(content, value); }
+
+    // Whether the view has the keyboard. A layout follows this and reports the user's own moves.
+    [[nodiscard]] bool isEditing() const { return editing; }
+    Q_INVOKABLE void becomeFirstResponder();
+    Q_INVOKABLE void resignFirstResponder();
+
+    // The user changed the whole text to `newText` (typed, deleted, pasted). Answers whether the change was
+    // accepted; a layout whose change was refused shows `text` again.
+    Q_INVOKABLE bool edit(const QString& newText);
+
+Q_SIGNALS:
+    void editingDidBegin();
+    void editingChanged();
+
+protected:
+    virtual bool allowsChange(const NSRange& range, const QString& replacement) = 0;
+
+private:
+    QString content;
+    bool editing = false;
+};

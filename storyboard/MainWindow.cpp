@@ -1,0 +1,49 @@
+#include "storyboard/MainWindow.h"
+
+#include "platform/services/Device.h"
+#include "platform/toolkit/UIBarButtonItem.h"
+#include "storyboard/SceneStage.h"
+#include "storyboard/controls/SymbolProvider.h"
+
+#include <QQmlEngine>
+#include <QQuickItem>
+
+namespace {
+
+constexpr QSize phoneSize(420, 860);
+constexpr QSize smallestSize(360, 480);
+
+} // namespace
+
+MainWindow::MainWindow()
+{
+    setTitle(QStringLiteral("Marrowvale"));
+    setResizeMode(SizeRootObjectToView);
+    setMinimumSize(smallestSize);
+    resize(phoneSize);
+    engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine()->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
+    sceneStage = std::make_unique<SceneStage>(*engine());
+    setInitialProperties({{QStringLiteral("stage"), QVariant::fromValue(sceneStage.get())}});
+    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Marrowvale/Storyboard/Main.qml")));
+    followInterfaceStyle();
+    sceneStage->navigation()->push(Storyboard::makeInitialViewController());
+}
+
+MainWindow::~MainWindow()
+{
+    // Layouts read their screens, which live on the stage: the root layout goes first.
+    delete rootObject();
+}
+
+void MainWindow::followInterfaceStyle()
+{
+    const int themeType = qmlTypeId("Marrowvale.Controls", 1, 0, "Theme");
+    auto* theme = engine()->singletonInstance<QObject*>(themeType);
+    if (theme == nullptr)
+        return;
+    InterfaceStyle* style = Device::current().interfaceStyle.get();
+    const auto apply = [theme, style] { theme->setProperty("dark", style->isDark()); };
+    apply();
+    connect(style, &InterfaceStyle::changed, theme, apply);
+}

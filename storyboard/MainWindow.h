@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QQuickView>
+#include <memory>
+
+class SceneStage;
+
+// The one window: a stage that starts at the home menu, light or dark as the device says. Needs a current
+// Device and an AppDelegate, both of which must outlive it.
+class MainWindow : public QQuickView
+{
+    Q_OBJECT
+
+public:
+    MainWindow();
+    ~MainWindow() override;
+
+    [[nodiscard]] SceneStage& stage() { return *sceneStage; }
+
+private:
+    void followInterfaceStyle();
+
+    std::unique_ptr<SceneStage> sceneStage;
+};

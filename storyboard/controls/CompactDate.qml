@@ -1,0 +1,42 @@
+import QtQuick
+import Marrowvale.Toolkit
+
+// The date on a button that opens the month.
+Item {
+    id: compact
+
+    required property UIDatePicker picker
+    property Shades shades: Theme.shades
+
+    signal shifted(days: int, months: int)
+
+    function dateText(): string {
+        const shown = new Date(2000, 0, 1);
+        shown.setFullYear(compact.picker.year, compact.picker.month - 1, compact.picker.day);
+        return shown.toLocaleDateString(Qt.locale(), "d MMM yyyy");
+    }
+
+    implicitHeight: calendar.visible ? calendar.y + calendar.implicitHeight : 216
+
+    PushButton {
+        id: face
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: calendar.visible ? 8 : 84
+        width: 200
+        shades: compact.shades
+        title: compact.picker !== null ? compact.dateText() : ""
+        onTriggered: calendar.visible = !calendar.visible
+    }
+
+    MonthCalendar {
+        id: calendar
+
+        y: face.y + face.height
+        width: parent.width
+        visible: false
+        picker: compact.picker
+        shades: compact.shades
+        onShifted: (days, months) => compact.shifted(days, months)
+    }
+}

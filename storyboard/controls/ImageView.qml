@@ -1,0 +1,36 @@
+import QtQuick
+import Marrowvale.Toolkit
+
+// A picture with its border; a symbol stands in for none.
+Rectangle {
+    id: view
+
+    required property UIImageView outlet
+    required property string label
+    property Shades shades: Theme.shades
+
+    radius: outlet.layer.cornerRadius
+    color: shades.field
+    border.width: outlet.layer.borderWidth
+    border.color: outlet.layer.borderColor.valid ? outlet.layer.borderColor : shades.divider
+
+    Accessible.role: Accessible.Graphic
+    Accessible.name: label
+
+    Symbol {
+        anchors.centerIn: parent
+        name: "photo.tv"
+        color: view.shades.divider
+        size: 56
+    }
+
+    ImageItem {
+        id: picture
+
+        anchors.fill: parent
+        anchors.margins: view.border.width
+        image: view.outlet.image // qmllint disable
+        radius: Math.max(0, view.radius - view.border.width)
+        fillMode: view.outlet.contentMode === UIImageView.ScaleToFill ? ImageItem.Stretch : ImageItem.Fit
+    }
+}

@@ -1,0 +1,53 @@
+import QtQuick
+import Marrowvale.Toolkit
+
+// What buttons share: tapping, the keyboard, assistive technology. A tap doesn't take the keyboard away from where
+// it is.
+Item {
+    id: pressable
+
+    property UIButton outlet: null
+    property string action
+    property string segue
+    // Shown where the outlet has no title of its own.
+    property string title
+    readonly property string shownTitle: outlet !== null && outlet.title.length > 0 ? outlet.title : title
+    readonly property bool available: outlet === null || outlet.enabled
+    readonly property bool down: area.pressed && area.containsMouse
+    readonly property bool hovered: area.containsMouse
+
+    signal triggered
+    // A tap on a button that has a menu.
+    signal menuAsked(menu: UIMenu)
+
+    function press() {
+        if (!pressable.available)
+            return;
+        if (pressable.outlet !== null && pressable.outlet.menu !== null)
+            pressable.menuAsked(pressable.outlet.menu);
+        else
+            pressable.triggered();
+    }
+
+    activeFocusOnTab: pressable.available
+
+    Accessible.role: Accessible.Button
+    Accessible.name: outlet !== null && outlet.accessibilityLabel.length > 0 ? outlet.accessibilityLabel : shownTitle
+    Accessible.focusable: true
+    Accessible.focused: activeFocus
+    Accessible.onPressAction: press()
+
+    Keys.onReturnPressed: event => press()
+    Keys.onEnterPressed: event => press()
+    Keys.onSpacePressed: event => press()
+
+    MouseArea {
+        id: area
+
+        anchors.fill: parent
+        enabled: pressable.available
+        hoverEnabled: true
+        cursorShape: Qt.PointingHandCursor
+        onClicked: pressable.press()
+    }
+}

@@ -1,0 +1,111 @@
+import QtQuick
+import Marrowvale.Toolkit
+
+// A search field with a button that clears it. Escape clears it too; `left` says that the user is done here.
+FocusScope {
+    id: bar
+
+    required property UISearchBar outlet
+
+    readonly property bool searching: outlet.text.length > 0
+
+    signal left
+
+    function begin() {
+        input.forceActiveFocus(Qt.ShortcutFocusReason);
+        input.selectAll();
+    }
+
+    function cancel() {
+        if (bar.outlet.text.length > 0)
+            bar.outlet.setText("");
+        bar.left();
+    }
+
+    implicitHeight: Theme.target
+
+    Keys.onEscapePressed: cancel()
+    Keys.onDownPressed: left()
+    Keys.onReturnPressed: left()
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.topMargin: 2
+        anchors.bottomMargin: 2
+        radius: 12
+        color: Theme.shades.field
+        border.width: input.activeFocus ? 2 : 1
+        border.color: input.activeFocus ? Theme.shades.accent : Theme.shades.divider
+    }
+
+    Symbol {
+        id: glass
+
+        x: 10
+        anchors.verticalCenter: parent.verticalCenter
+        name: "magnifyingglass"
+        color: Theme.shades.secondary
+        size: 20
+    }
+
+    Text {
+        anchors.fill: input
+        visible: input.length === 0
+        verticalAlignment: Text.AlignVCenter
+        text: bar.outlet.placeholder
+        elide: Text.ElideRight
+        color: Theme.shades.secondary
+        font: input.font
+    }
+
+    TextInput {
+        id: input
+
+        anchors.left: glass.right
+        anchors.leftMargin: 8
+        anchors.right: clear.left
+        height: parent.height
+        verticalAlignment: TextInput.AlignVCenter
+        focus: true
+        activeFocusOnTab: true
+        clip: true
+        selectByMouse: true
+        color: Theme.shades.text
+        selectionColor: Theme.shades.accent
+        selectedTextColor: Theme.shades.accentText
+        font.family: Theme.fontFamily
+        font.pixelSize: Theme.body
+        inputMethodHints: Qt.ImhNoPredictiveText
+
+        Accessible.role: Accessible.EditableText
+        Accessible.name: bar.outlet.placeholder
+        Accessible.editable: true
+        Accessible.searchEdit: true
+
+        onTextEdited: bar.outlet.setText(text)
+
+        Connections {
+            target: bar.outlet
+
+            function onChanged() {
+                if (input.text !== bar.outlet.text)
+                    input.text = bar.outlet.text;
+            }
+        }
+    }
+
+    BarButton {
+        id: clear
+
+        anchors.right: parent.right
+        visible: input.length > 0
+        activeFocusOnTab: false
+        title: "Clear"
+        image: "xmark.circle.fill"
+        tint: Theme.shades.secondary
+        onTriggered: {
+            bar.outlet.setText("");
+            input.forceActiveFocus();
+        }
+    }
+}

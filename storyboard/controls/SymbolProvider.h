@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QQuickImageProvider>
+
+// Draws a symbol in one colour: "image://symbol/square.and.arrow.up?#202020". An unknown symbol is an empty
+// picture.
+class SymbolProvider : public QQuickImageProvider
+{
+public:
+    SymbolProvider();
+
+    QImage requestImage(const QString& id, QSize* size, const QSize& requestedSize) override;
+};

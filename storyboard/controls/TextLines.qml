@@ -1,0 +1,80 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Marrowvale.Toolkit
+
+// A long text to read: only the lines in sight are laid out, and an endless line is cut into pieces.
+Rectangle {
+    id: view
+
+    required property UITextView outlet
+    property string emptyText
+    readonly property int longestPiece: 1000
+    property var pieces: []
+    property string shownText
+
+    function show() {
+        if (view.outlet.text === view.shownText)
+            return;
+        view.shownText = view.outlet.text;
+        const made = [];
+        for (const line of view.shownText.split("\n"))
+            for (let from = 0; from === 0 || from < line.length; from += view.longestPiece)
+                made.push(line.slice(from, from + view.longestPiece));
+        view.pieces = made;
+    }
+
+    radius: outlet.layer.cornerRadius > 0 ? outlet.layer.cornerRadius : 10
+    color: Theme.shades.field
+    border.width: 1
+    border.color: Theme.shades.divider
+
+    Component.onCompleted: show()
+
+    Connections {
+        target: view.outlet
+
+        function onChanged() {
+            view.show();
+        }
+    }
+
+    ListView {
+        anchors.fill: parent
+        anchors.margins: 1
+        leftMargin: 10
+        rightMargin: 10
+        topMargin: 8
+        bottomMargin: 8
+        clip: true
+        activeFocusOnTab: true
+        model: view.pieces.length
+        reuseItems: true
+        boundsBehavior: Flickable.StopAtBounds
+
+        Keys.onDownPressed: flick(0, -600)
+        Keys.onUpPressed: flick(0, 600)
+
+        Accessible.role: Accessible.List
+        Accessible.name: "File Text"
+
+        T.ScrollBar.vertical: ScrollBar {}
+
+        delegate: Label {
+            required property int index
+
+            width: ListView.view.width - 20
+            text: view.pieces[index]
+            wrapMode: Text.WrapAnywhere
+            font.pixelSize: Theme.small
+        }
+    }
+
+    Label {
+        anchors.centerIn: parent
+        visible: view.shownText.length === 0
+        text: view.emptyText
+        color: Theme.shades.secondary
+    }
+}

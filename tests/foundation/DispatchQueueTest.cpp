@@ -1,0 +1,55 @@
+#include "platform/foundation/DispatchQueue.h"
+#include "tests/support/ManualQueue.h"
+
+#include <QEventLoop>
+
+using namespace std::chrono_literals;
+
+TEST(DispatchQueue, RunsWhatIsDueInOrder)
+{
+    QString ran;
+    const auto note = [&ran](char16_t mark) { return [&ran, mark] { ran += QChar(mark); }; };
+    ManualQueue queue;
+    auto& main = DispatchQueue::main();
+    main.asyncAfter(5s, note(u'c'));
+    main.asyncAfter(1s, [&] {
+        ran += u'b';
+        main.asyncAfter(5s, note(u'e'));
+    });
+    main.asyncAfter(5s, note(u'd'));
+    main.async(note(u'a'));
+    EXPECT_EQ(ran, QString());
+    queue.advance(0s);
+    EXPECT_EQ(ran, QStringLiteral("a"));
+    queue.advance(5s);
+    EXPECT_EQ(ran, QStringLiteral("abcd"));
+    queue.advance(999ms);
+    EXPECT_EQ(queue.pending(), 1U);
+    queue.advance(1ms);
+    EXPECT_EQ(ran, QStringLiteral("abcde"));
+}
+
+TEST(DispatchQueue, IsTheEventLoopOutsideEveryScope)
+{
+    auto& ordinary = DispatchQueue::main();
+    {
+        const ManualQueue outer;
+        {
+            const ManualQueue inner;
+            EXPECT_EQ(&DispatchQueue::main(), &inner);
+        }
+        EXPECT_EQ(&DispatchQueue::main(), &outer);
+    }
+    ASSERT_EQ(&DispatchQueue::main(), &ordinary);
+
+    QString ran;
+    QEventLoop loop;
+    ordinary.asyncAfter(2ms, [&] {
+        ran += u'b';
+        loop.quit();
+    });
+    ordinary.async([&] { ran += u'a'; });
+    EXPECT_EQ(ran, QString());
+    loop.exec();
+    EXPECT_EQ(ran, QStringLiteral("ab"));
+}

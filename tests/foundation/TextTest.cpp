@@ -1,0 +1,59 @@
+#include "platform/foundation/Text.h"
+#include "platform/foundation/Console.h"
+#include "platform/foundation/Result.h"
+
+TEST(Text, TrimmingTakesBlanksAndTabsAtTheEndsOnly)
+{
+    const std::pair<QString, QString> cases[] = {
+        {QStringLiteral(" \t a \t b \t "), QStringLiteral("a \t b")},
+        {QStringLiteral(" \n a \n "), QStringLiteral("\n a \n")},
+        {QStringLiteral("\u00a0a\u2003"), QStringLiteral("\u00a0a\u2003")},
+        {QStringLiteral(" \t "), QString()},
+        {QString(), QString()},
+    };
+    for (const auto& [given, wanted] : cases)
+        EXPECT_EQ(trimmingWhitespace(given), wanted) << given.toStdString();
+}
+
+TEST(Text, Int16ReadsAWholeSignedDecimalInRange)
+{
+    const std::pair<const char*, std::optional<qint16>> cases[] = {
+        {"0", 0},
+        {"1994", 1994},
+        {"+7", 7},
+        {"-7", -7},
+        {"007", 7},
+        {"32767", 32767},
+        {"-32768", -32768},
+        {"32768", {}},
+        {"-32769", {}},
+        {"99999999999999999999", {}},
+        {"", {}},
+        {"+", {}},
+        {"-", {}},
+        {"+-1", {}},
+        {"1.5", {}},
+        {" 1", {}},
+        {"1 ", {}},
+        {"0x1", {}},
+        {"1e2", {}},
+        {"1,000", {}},
+        {"\u0661\u0662", {}},
+    };
+    for (const auto& [text, wanted] : cases)
+        EXPECT_EQ(int16From(QString::fromUtf8(text)), wanted) << text;
+}
+
+TEST(NSError, DebugTextListsTheUserInfo)
+{
+    EXPECT_EQ((NSError{QStringLiteral("No room"), {}}).debugText(), QStringLiteral("No room, {}"));
+    const NSError error{QStringLiteral("No room"),
+                        {{QStringLiteral("code"), 13}, {QStringLiteral("path"), QStringLiteral("/a")}}};
+    EXPECT_EQ(error.debugText(), QStringLiteral("No room, {code = 13; path = /a}"));
+}
+
+TEST(ConsoleDeathTest, FatalErrorTellsWhyAndAborts)
+{
+    EXPECT_EXIT(fatalError(QStringLiteral("caf\u00e9")), testing::KilledBySignal(SIGABRT),
+                "(^|\n)Fatal error: caf\u00e9\n$");
+}

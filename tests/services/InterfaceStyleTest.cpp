@@ -1,0 +1,121 @@
+#include "platform/services/PortalInterfaceStyle.h"
+#include "tests/services/StandInPortal.h"
+
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+#include <QPalette>
+#include <QProcess>
+#include <QStandardPaths>
+#include <gtest/gtest.h>
+
+namespace {
+
+class InterfaceStyleTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        const QString program = QStandardPaths::findExecutable("dbus-daemon");
+        if (program.isEmpty())
+            GTEST_SKIP() << "there is no dbus-daemon";
+        daemon.start(program, {"--session", "--nofork", "--print-address"});
+        ASSERT_TRUE(daemon.waitForReadyRead());
+        address = QString::fromUtf8(daemon.readLine().trimmed());
+        portal.emplace(connection("portal"));
+    }
+
+    void TearDown() override
+    {
+        portal.reset();
+        for (const char* name : {"portal", "program"})
+            QDBusConnection::disconnectFromBus(name);
+        daemon.kill();
+        daemon.waitForFinished();
+        setDesktopDark(false);
+    }
+
+    QDBusConnection connection(const QString& name) const
+    {
+        return QDBusConnection::connectToBus(address, name);
+    }
+
+    static void setDesktopDark(bool dark)
+    {
+        QPalette palette;
+        palette.setColor(QPalette::Window, dark ? Qt::black : Qt::white);
+        palette.setColor(QPalette::WindowText, dark ? Qt::white : Qt::black);
+        QGuiApplication::setPalette(palette);
+    }
+
+    // False only where something is broken: what is waited for takes milliseconds.
+    template <typename Condition>
+    static bool comesTrue(Condition condition)
+    {
+        const QDeadlineTimer broken(20000);
+        while (!condition() && !broken.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        return condition();
+    }
+
+    QProcess daemon;
+    QString address;
+    std::optional<StandInPortal> portal;
+};
+
+TEST_F(InterfaceStyleTest, ThePortalOverrulesThePalette)
+{
+    enum Scheme : uint { NoPreference, Dark, Light, Unknown };
+    struct Case
+    {
+        uint scheme;
+        bool desktopDark;
+        bool expected;
+    };
+    for (const Case& each :
+         {Case{Dark, false, true}, Case{Light, true, false}, Case{NoPreference, true, true},
+          Case{NoPreference, false, false}, Case{Unknown, true, true}}) {
+        SCOPED_TRACE(each.scheme);
+        setDesktopDark(each.desktopDark);
+        portal->scheme = each.scheme;
+        portal->asked = 0;
+        PortalInterfaceStyle style(connection("program"));
+        int changes = 0;
+        QObject::connect(&style, &InterfaceStyle::changed, [&changes] { ++changes; });
+        EXPECT_EQ(style.isDark(), each.desktopDark) << "before the answer";
+        const auto settled = [&] { return portal->asked > 0 && style.findChildren<QObject*>().isEmpty(); };
+        ASSERT_TRUE(comesTrue(settled)) << "the call is destroyed once it is answered";
+        EXPECT_EQ(style.isDark(), each.expected);
+        EXPECT_EQ(changes, each.expected == each.desktopDark ? 0 : 1);
+    }
+}
+
+TEST_F(InterfaceStyleTest, FollowsThePortalsSettingAndNoOther)
+{
+    enum Scheme : uint { Dark = 1, Light = 2 };
+    portal->scheme = Light;
+    const PortalInterfaceStyle style(connection("program"));
+    std::vector<bool> told;
+    QObject::connect(&style, &InterfaceStyle::changed, [&] { told.push_back(style.isDark()); });
+    const auto set = [this](const QString& group, const QString& key, uint value) {
+        Q_EMIT portal->SettingChanged(group, key, QDBusVariant(value));
+    };
+    set("org.freedesktop.appearance", "color-scheme", Dark);
+    set("org.freedesktop.appearance", "contrast", Light);
+    set("org.example.appearance", "color-scheme", Light);
+    set("org.freedesktop.appearance", "color-scheme", Light);
+    EXPECT_TRUE(comesTrue([&] { return told.size() >= 2; }));
+    EXPECT_EQ(told, std::vector<bool>({true, false}));
+}
+
+TEST_F(InterfaceStyleTest, APortalThatNeverAnswersHoldsNothingUp)
+{
+    for (const bool dark : {true, false}) {
+        setDesktopDark(dark);
+        portal->asked = 0;
+        const PortalInterfaceStyle style(connection("program"));
+        ASSERT_TRUE(comesTrue([this] { return portal->asked > 0; }));
+        EXPECT_EQ(style.isDark(), dark);
+    }
+}
+
+} // namespace

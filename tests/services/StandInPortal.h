@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QDBusVariant>
+#include <QObject>
+#include <optional>
+
+// The settings part of a desktop portal, on a bus of the test's own.
+class StandInPortal : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    // Answers from its making on, to whoever asks on `bus`.
+    explicit StandInPortal(const QDBusConnection& bus);
+
+    // What Read answers; absent: it never does.
+    std::optional<uint> scheme;
+    int asked = 0;
+
+public Q_SLOTS:
+    QDBusVariant Read(const QString& group, const QString& key);
+
+Q_SIGNALS:
+    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+};

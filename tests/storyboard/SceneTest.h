@@ -1,0 +1,74 @@
+#pragma once
+
+#include "storyboard/MainWindow.h"
+#include "storyboard/SceneStage.h"
+#include "storyboard/SceneTable.h"
+#include "tests/storyboard/Warnings.h"
+#include "tests/support/Catalogue.h"
+#include "tour/AccessibleTree.h"
+
+#include <QQuickItem>
+#include <QtTest>
+
+// The program's window at the home menu, with a catalogue of one movie. A warning of a layout fails the test.
+class SceneTest : public CatalogueTest
+{
+protected:
+    void SetUp() override
+    {
+        given({.name = "Zoolander", .genre = "Comedy", .rating = "PG-13", .year = 2001});
+        window = std::make_unique<MainWindow>();
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    void TearDown() override
+    {
+        window.reset();
+        EXPECT_EQ(warnings.texts(), QStringList());
+    }
+
+    UINavigationController& navigation() { return *window->stage().navigation(); }
+
+    // The screen that the segue of the screen on top leads to, with its layout in place.
+    void follow(const QString& segue)
+    {
+        navigation().topViewController()->performSegue(segue);
+        waitUntilStill();
+    }
+
+    // Layouts have come in and gone.
+    void waitUntilStill()
+    {
+        const auto items = window->rootObject()->childItems();
+        const auto stack = std::find_if(items.begin(), items.end(), [](const QQuickItem* item) {
+            return item->inherits("QQuickStackView");
+        });
+        ASSERT_NE(stack, items.end());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !(*stack)->property("busy").toBool(); }));
+    }
+
+    QAccessibleInterface* visible(QAccessible::Role role, const QString& name)
+    {
+        QAccessibleInterface* found = nullptr;
+        forEachAccessible(*window, [&](QAccessibleInterface& seen) {
+            if (seen.role() == role && seen.text(QAccessible::Name) == name && !seen.state().invisible)
+                found = &seen;
+        });
+        return found;
+    }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(window.get(), key, modifiers);
+    }
+
+    void type(const QByteArray& text)
+    {
+        for (const char character : text)
+            QTest::keyClick(window.get(), character);
+    }
+
+    Warnings warnings;
+    std::unique_ptr<MainWindow> window;
+};

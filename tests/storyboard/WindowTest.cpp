@@ -1,0 +1,90 @@
+#include "browse/ViewController.h"
+#include "editing/AddMovieViewController.h"
+#include "tests/storyboard/SceneTest.h"
+
+#include <QPointer>
+
+namespace {
+
+using WindowTest = SceneTest;
+
+TEST_F(WindowTest, AssistiveTechnologyPressesButtons)
+{
+    EXPECT_EQ(visible(QAccessible::Button, "Movie List"), nullptr) << "the menu starts folded in";
+    visible(QAccessible::Button, "Menu")
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return visible(QAccessible::Button, "Movie List") != nullptr; }));
+    visible(QAccessible::Button, "Movie List")
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(navigation().depth(), 2);
+}
+
+TEST_F(WindowTest, TheKeyboardSearchesAddsAndGoesBack)
+{
+    follow("MovieList");
+    press(Qt::Key_F, Qt::ControlModifier);
+    press(Qt::Key_Q);
+    EXPECT_NE(visible(QAccessible::StaticText, "# Movies = 0 of 1"), nullptr);
+    press(Qt::Key_Escape);
+    EXPECT_NE(visible(QAccessible::StaticText, "# Movies = 1"), nullptr) << "the first one ends the search";
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_NE(qobject_cast<AddMovieViewController*>(navigation().topViewController()), nullptr);
+    for (const int depth : {2, 1, 1}) {
+        waitUntilStill();
+        press(Qt::Key_Escape);
+        EXPECT_EQ(navigation().depth(), depth);
+    }
+}
+
+TEST_F(WindowTest, ARefusedCharacterLeavesTheFieldAsItWas)
+{
+    follow("AddMovie");
+    QAccessibleInterface* year = visible(QAccessible::EditableText, "Year Released");
+    ASSERT_NE(year, nullptr);
+    auto* input = qobject_cast<QQuickItem*>(year->object());
+    input->forceActiveFocus();
+    type("19x");
+    EXPECT_EQ(input->property("text"), "19");
+    input->setProperty("cursorPosition", 1);
+    type("y8");
+    EXPECT_EQ(input->property("text"), "189") << "the cursor stayed where it was";
+    auto& screen = static_cast<AddMovieViewController&>(*navigation().topViewController());
+    EXPECT_EQ(screen.YearReleasedTextField->text(), "189");
+    screen.YearReleasedTextField->setText("1950");
+    EXPECT_EQ(input->property("text"), "1950");
+}
+
+TEST_F(WindowTest, PoppedScreensAndTheirLayoutsGoTogether)
+{
+    std::vector<QPointer<QObject>> left;
+    QObject::connect(&window->stage(), &SceneStage::pushed, window.get(), [&](QQuickItem* layout) {
+        left.emplace_back(layout);
+        left.emplace_back(navigation().topViewController());
+    });
+    follow("ImportExport");
+    follow("Import");
+    ASSERT_EQ(left.size(), 4);
+    navigation().topViewController()->performSegue("unwindToMenu");
+    EXPECT_NE(left[2], nullptr) << "it is still seen leaving";
+    const auto isGone = [](const QPointer<QObject>& object) { return object.isNull(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::all_of(left.begin(), left.end(), isGone); }));
+    EXPECT_NE(visible(QAccessible::Button, "Menu"), nullptr);
+}
+
+TEST_F(WindowTest, FollowsTheDeviceIntoTheDark)
+{
+    const auto lightness = [&] {
+        return window->grabWindow().pixelColor(4, window->height() - 4).lightness();
+    };
+    EXPECT_GT(lightness(), 200);
+    device.setDark(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lightness() < 80; }));
+    follow("Print");
+    EXPECT_LT(lightness(), 80) << "screens made later are dark too";
+    device.setDark(false);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lightness() > 200; }));
+}
+
+} // namespace

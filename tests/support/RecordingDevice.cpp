@@ -1,0 +1,48 @@
+#include "tests/support/RecordingDevice.h"
+
+namespace {
+
+template <typename Twin, typename Service>
+Twin* put(std::unique_ptr<Service>& place)
+{
+    auto twin = std::make_unique<Twin>();
+    Twin* made = twin.get();
+    place = std::move(twin);
+    return made;
+}
+
+} // namespace
+
+RecordingDevice::RecordingDevice()
+    : textMessagesTwin(put<RecordingTextMessages>(textMessages))
+    , documentsTwin(put<RecordingDocuments>(documents))
+    , pasteboardTwin(put<RecordingPasteboard>(pasteboard))
+    , cameraTwin(put<RecordingCamera>(camera))
+    , interfaceStyleTwin(put<RecordingInterfaceStyle>(interfaceStyle))
+{
+}
+
+void RecordingDevice::setDark(bool dark)
+{
+    interfaceStyleTwin->dark = dark;
+    Q_EMIT interfaceStyleTwin->changed();
+}
+
+void RecordingDevice::answerPick()
+{
+    if (const auto tell = std::exchange(documentsTwin->picked, nullptr))
+        tell(nextPick);
+}
+
+void RecordingDevice::RecordingDocuments::pickDocument(const Request& asked, Picked tell)
+{
+    request = asked;
+    picked = std::move(tell);
+}
+
+void RecordingDevice::RecordingDocuments::saveDocument(const QString& name, const QByteArray& content,
+                                                       Saved tell)
+{
+    saved.push_back({name, content});
+    tell(problem);
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "platform/services/Device.h"
+
+#include <utility>
+#include <vector>
+
+// A device that does what a test says and remembers what it was asked for.
+struct RecordingDevice : Device
+{
+    RecordingDevice();
+
+    void setCanSendText(bool can) { textMessagesTwin->can = can; }
+    void setDark(bool dark);
+    void setCameraAvailable(bool available) { cameraTwin->available = available; }
+
+    // What the next answerPick() tells: a file, or absent for a cancelled dialog.
+    std::optional<QUrl> nextPick;
+    // Answers the open file dialog with nextPick; none open: does nothing.
+    void answerPick();
+    [[nodiscard]] bool isPicking() const { return documentsTwin->picked != nullptr; }
+
+    struct SavedDocument
+    {
+        QString name;
+        QByteArray content;
+    };
+    [[nodiscard]] const std::vector<SavedDocument>& savedDocuments() const { return documentsTwin->saved; }
+    // The sentence that every save fails with; empty: saves succeed.
+    void setSaveProblem(const QString& problem) { documentsTwin->problem = problem; }
+
+    struct RecordingTextMessages : TextMessages
+    {
+        [[nodiscard]] bool canSendText() const override { return can; }
+        bool can = true;
+    };
+    struct RecordingDocuments : Documents
+    {
+        void pickDocument(const Request& request, Picked tell) override;
+        void cancelPicking() override { picked = nullptr; }
+        void saveDocument(const QString& name, const QByteArray& content, Saved tell) override;
+        Request request;
+        Picked picked;
+        std::vector<SavedDocument> saved;
+        QString problem;
+    };
+    struct RecordingPasteboard : Pasteboard
+    {
+        [[nodiscard]] bool hasImages() const override { return !picture.isNull(); }
+        [[nodiscard]] QImage image() const override { return picture; }
+        void setString(const QString& value) override { text = value; }
+        void setImage(const QImage& value) override { picture = value; }
+        QString text;
+        QImage picture;
+    };
+    struct RecordingCamera : Camera
+    {
+        [[nodiscard]] bool isAvailable() const override { return available; }
+        bool available = false;
+    };
+    struct RecordingInterfaceStyle : InterfaceStyle
+    {
+        [[nodiscard]] bool isDark() const override { return dark; }
+        bool dark = false;
+    };
+
+    RecordingTextMessages* textMessagesTwin;
+    RecordingDocuments* documentsTwin;
+    RecordingPasteboard* pasteboardTwin;
+    RecordingCamera* cameraTwin;
+    RecordingInterfaceStyle* interfaceStyleTwin;
+};

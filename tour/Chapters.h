@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+class Tour;
+
+// The tour's story, in this order: each chapter begins and ends at the home menu and builds on what the ones
+// before left in the catalogue.
+
+// The menu of a fresh installation, and what the reference lists start with.
+void seeFirstLaunch(Tour& tour);
+// One movie, entered in every way that the form offers.
+void addMovie(Tour& tour);
+// A file that is none of ours, then `exchangeFile`.
+void importMovies(Tour& tour, const QString& exchangeFile);
+// The four orders both ways, the search, deleting.
+void browseMovies(Tour& tour);
+// The share sheet, without and with text messages.
+void shareMovies(Tour& tour);
+// The remaining ways out of the menu and of the list, and back by button and keyboard.
+void lookAround(Tour& tour);

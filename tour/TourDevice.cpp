@@ -1,0 +1,73 @@
+#include "tour/TourDevice.h"
+
+#include <QDir>
+#include <QFile>
+
+struct TourDevice::SelfAnsweringDocuments : Documents
+{
+    void pickDocument(const Request& /*request*/, Picked picked) override
+    {
+        const auto answer = [this, tell = std::move(picked)] { tell(QUrl::fromLocalFile(pickedFile)); };
+        QMetaObject::invokeMethod(&later, answer, Qt::QueuedConnection);
+    }
+    void cancelPicking() override {}
+    void saveDocument(const QString& name, const QByteArray& content, Saved saved) override
+    {
+        QFile file(QDir(folder).filePath(name));
+        const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+        saved(written ? QString() : file.errorString());
+    }
+
+    QString folder;
+    QString pickedFile;
+    QObject later;
+};
+
+struct TourDevice::ToldTextMessages : TextMessages
+{
+    [[nodiscard]] bool canSendText() const override { return can; }
+    bool can = false;
+};
+
+struct TourDevice::ToldInterfaceStyle : InterfaceStyle
+{
+    [[nodiscard]] bool isDark() const override { return dark; }
+    bool dark = false;
+};
+
+namespace {
+
+template <typename Told, typename Service>
+Told* replaceService(std::unique_ptr<Service>& place)
+{
+    auto told = std::make_unique<Told>();
+    Told* made = told.get();
+    place = std::move(told);
+    return made;
+}
+
+} // namespace
+
+TourDevice::TourDevice(const QString& folder)
+    : documents(replaceService<SelfAnsweringDocuments>(device->documents))
+    , textMessages(replaceService<ToldTextMessages>(device->textMessages))
+    , interfaceStyle(replaceService<ToldInterfaceStyle>(device->interfaceStyle))
+{
+    documents->folder = folder;
+}
+
+void TourDevice::setPickedFile(const QString& path)
+{
+    documents->pickedFile = path;
+}
+
+void TourDevice::setDark(bool dark)
+{
+    interfaceStyle->dark = dark;
+    Q_EMIT interfaceStyle->changed();
+}
+
+void TourDevice::setCanSendText(bool can)
+{
+    textMessages->can = can;
+}

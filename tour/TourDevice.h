@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/services/Device.h"
+
+// The device that the program really runs on, but for what would lead out of the tour: the file dialog picks
+// by itself, and the tour decides on light or dark and on whether there are text messages.
+class TourDevice
+{
+public:
+    // What is saved goes into `folder`.
+    explicit TourDevice(const QString& folder);
+
+    // The file that every following file dialog picks.
+    void setPickedFile(const QString& path);
+    // False until set.
+    void setDark(bool dark);
+    void setCanSendText(bool can);
+
+private:
+    struct SelfAnsweringDocuments;
+    struct ToldTextMessages;
+    struct ToldInterfaceStyle;
+
+    std::unique_ptr<Device> device = makeLinuxDevice();
+    SelfAnsweringDocuments* documents;
+    ToldTextMessages* textMessages;
+    ToldInterfaceStyle* interfaceStyle;
+};

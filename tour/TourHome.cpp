@@ -1,0 +1,25 @@
+#include "tour/TourHome.h"
+
+#include "tour/TourError.h"
+
+#include <QDir>
+#include <QLocale>
+
+TourHome::TourHome(const QString& outputFolder)
+    : directory(QDir(outputFolder).filePath("home-XXXXXX"))
+{
+    if (!directory.isValid())
+        throw TourError("No home directory: " + directory.errorString());
+    const auto point = [this](const char* variable, const QString& folder) {
+        QDir().mkpath(path(folder));
+        qputenv(variable, QDir(path(folder)).absolutePath().toUtf8());
+    };
+    point("HOME", ".");
+    point("XDG_DATA_HOME", "data");
+    point("XDG_CONFIG_HOME", "config");
+    point("XDG_CACHE_HOME", "cache");
+    qputenv("LC_ALL", "en_US.UTF-8");
+    qputenv("LANGUAGE", "en_US");
+    qputenv("TZ", "America/New_York");
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+}

@@ -10,7 +10,8 @@ public:
     BenchHome();
 
     // The folder `name`, new or not, becomes the one that data is kept in. Answers its path.
-    QString useDataFolder(const QString& name) const;
+    QString
+    useDataFolder(const QString& name) const; // NOLINT(modernize-use-nodiscard): mostly called for its effect
 
 private:
     QTemporaryDir directory;

@@ -50,9 +50,11 @@ std::vector<BareStatement> sortStatements(BareDatabase& database)
     std::vector<BareStatement> statements;
     for (const std::string key : {"", "genre", "yearReleased", "rating"}) {
         for (const std::string direction : {" DESC", ""}) {
-            const auto leading = key.empty() ? key : key + direction + ", ";
-            statements.push_back(database.prepare("SELECT id FROM Movies ORDER BY " + leading + "movieName" +
-                                                  direction + ", id" + direction));
+            std::string sql = "SELECT id FROM Movies ORDER BY ";
+            if (!key.empty())
+                sql.append(key).append(direction).append(", ");
+            sql.append("movieName").append(direction).append(", id").append(direction);
+            statements.push_back(database.prepare(sql));
         }
     }
     return statements;

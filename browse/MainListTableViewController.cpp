@@ -148,7 +148,7 @@ void MainListTableViewController::fallbackMenuTapped()
     sortMovies();
 }
 
-void MainListTableViewController::unwindToListWithSegue(UIStoryboardSegue /*segue*/) {}
+void MainListTableViewController::unwindToListWithSegue(const UIStoryboardSegue& /*segue*/) {}
 
 void MainListTableViewController::sortMovies()
 {

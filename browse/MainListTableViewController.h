@@ -29,7 +29,7 @@ public:
     Q_INVOKABLE void SortMoviesTapped();
     Q_INVOKABLE void fallbackMenuTapped();
     Q_INVOKABLE void shareButtonClicked();
-    Q_INVOKABLE void unwindToListWithSegue(UIStoryboardSegue segue);
+    Q_INVOKABLE void unwindToListWithSegue(const UIStoryboardSegue& segue);
     void updateSearchResultsForSearchController(UISearchController& controller);
 
     [[nodiscard]] int numberOfRowsInSection(int section) override;

@@ -58,7 +58,7 @@ void ViewController::HandleSelection()
         button->setHidden(!button->isHidden(), foldingSeconds);
 }
 
-void ViewController::unwindToMenuWithSegue(UIStoryboardSegue /*segue*/) {}
+void ViewController::unwindToMenuWithSegue(const UIStoryboardSegue& /*segue*/) {}
 
 void ViewController::styleButtons()
 {

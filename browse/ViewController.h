@@ -34,7 +34,7 @@ public:
 
     // Folds the entries out, or in again.
     Q_INVOKABLE void HandleSelection();
-    Q_INVOKABLE void unwindToMenuWithSegue(UIStoryboardSegue segue);
+    Q_INVOKABLE void unwindToMenuWithSegue(const UIStoryboardSegue& segue);
 
     UIButton* const ControlButton = new UIButton(this);
     UIButton* const MovieListButton = new UIButton(this);

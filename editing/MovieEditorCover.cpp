@@ -33,7 +33,7 @@ void MovieEditorViewController::OpenFrontCamera()
 void MovieEditorViewController::didFinishPickingMediaWithInfo(UIImagePickerController& /*picker*/,
                                                               const QVariantMap& info)
 {
-    const QImage image = info.value(UIImagePickerControllerOriginalImage).value<QImage>();
+    const auto image = info.value(UIImagePickerControllerOriginalImage).value<QImage>();
     if (image.isNull())
         return;
     chosenFrontImage = image;

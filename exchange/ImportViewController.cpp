@@ -47,6 +47,9 @@ void ImportViewController::viewDidLoad()
     styleExchangeButton(*ImportButton);
     styleExchangeButton(*LoadFileButton);
     ImportButton->setEnabled(false);
+    // What is imported is the file, not what became of its text on the screen.
+    ImportTextView->setEditable(false);
+    HelpTextView->setEditable(false);
     HelpTextView->setText(QStringLiteral("YOU CAN ONLY IMPORT THE FILE CREATED BY THIS APP.\n"
                                          "1: Select the file you saved to your iCloud drive\n"
                                          "2: Import the file into your device"));

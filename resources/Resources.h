@@ -3,7 +3,8 @@
 #include <QImage>
 #include <QString>
 
-// The built-in picture "BlackandwhiteMovielogo.jpg", which stands in for a movie without a cover. Decoded once.
+// The built-in picture "BlackandwhiteMovielogo.jpg", which stands in for a movie without a cover. Decoded
+// once.
 [[nodiscard]] const QImage& movieLogo();
 
 // Where the drawing of a symbol lies, such as "square.and.arrow.up"; the file need not exist.

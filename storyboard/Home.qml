@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Window
 import Marrowvale.Browse
 import Marrowvale.Controls
 
@@ -9,11 +10,19 @@ Scene {
 
     component Entry: PushButton {
         width: parent.width
-        spacing: 10
+        spacing: 8
+        faceHeight: 46
+    }
+
+    function moveFocus(forward: bool) {
+        (Window.activeFocusItem ?? root).nextItemInFocusChain(forward).forceActiveFocus(Qt.TabFocusReason);
     }
 
     controller: screen
     title: "Marrowvale"
+
+    Keys.onDownPressed: moveFocus(true)
+    Keys.onUpPressed: moveFocus(false)
 
     Page {
         anchors.fill: parent
@@ -22,13 +31,13 @@ Scene {
 
         Item {
             width: 1
-            height: Math.max(8, root.height * 0.06)
+            height: Math.max(8, root.height * 0.03)
         }
 
         Image {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: 112
-            height: 112
+            width: 92
+            height: 92
             sourceSize.width: 224
             sourceSize.height: 224
             source: "qrc:/marrowvale/marrowvale.svg"
@@ -38,7 +47,7 @@ Scene {
 
         Label {
             width: parent.width
-            topPadding: 12
+            topPadding: 10
             text: "Marrowvale"
             horizontalAlignment: Text.AlignHCenter
             font.pixelSize: Theme.display
@@ -49,7 +58,7 @@ Scene {
         Label {
             width: parent.width
             topPadding: 2
-            bottomPadding: 28
+            bottomPadding: 20
             text: "Every movie you have watched"
             horizontalAlignment: Text.AlignHCenter
             color: Theme.shades.secondary

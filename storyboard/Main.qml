@@ -8,8 +8,6 @@ Rectangle {
     id: root
 
     required property SceneStage stage
-    // The style of every layout.
-    property bool dark: false
     // Popped layouts that may still be seen leaving.
     property var leaving: []
 
@@ -50,7 +48,7 @@ Rectangle {
     Binding {
         target: Theme
         property: "dark"
-        value: root.dark
+        value: root.stage.interfaceStyle.dark
     }
 
     Timer {

@@ -1,6 +1,5 @@
 #include "storyboard/MainWindow.h"
 
-#include "platform/services/Device.h"
 #include "platform/toolkit/UIBarButtonItem.h"
 #include "storyboard/SceneStage.h"
 #include "storyboard/controls/SymbolProvider.h"
@@ -26,7 +25,6 @@ MainWindow::MainWindow()
     sceneStage = std::make_unique<SceneStage>(*engine());
     setInitialProperties({{QStringLiteral("stage"), QVariant::fromValue(sceneStage.get())}});
     setSource(QUrl(QStringLiteral("qrc:/qt/qml/Marrowvale/Storyboard/Main.qml")));
-    followInterfaceStyle();
     sceneStage->navigation()->push(Storyboard::makeInitialViewController());
 }
 
@@ -34,16 +32,4 @@ MainWindow::~MainWindow()
 {
     // Layouts read their screens, which live on the stage: the root layout goes first.
     delete rootObject();
-}
-
-void MainWindow::followInterfaceStyle()
-{
-    const int themeType = qmlTypeId("Marrowvale.Controls", 1, 0, "Theme");
-    auto* theme = engine()->singletonInstance<QObject*>(themeType);
-    if (theme == nullptr)
-        return;
-    InterfaceStyle* style = Device::current().interfaceStyle.get();
-    const auto apply = [theme, style] { theme->setProperty("dark", style->isDark()); };
-    apply();
-    connect(style, &InterfaceStyle::changed, theme, apply);
 }

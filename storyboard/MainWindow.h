@@ -18,7 +18,5 @@ public:
     [[nodiscard]] SceneStage& stage() { return *sceneStage; }
 
 private:
-    void followInterfaceStyle();
-
     std::unique_ptr<SceneStage> sceneStage;
 };

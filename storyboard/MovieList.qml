@@ -49,7 +49,7 @@ Scene {
         y: 8
         width: Math.min(parent.width, Theme.columnWidth + 2 * Theme.margin) - 2 * Theme.gap
         outlet: root.screen.searchController.searchBar
-        onLeft: table.forceActiveFocus()
+        onFinished: table.forceActiveFocus()
     }
 
     Table {
@@ -60,6 +60,7 @@ Scene {
         anchors.bottom: parent.bottom
         width: parent.width
         focus: true
+        name: "Movies"
         outlet: root.screen.tableView
         segue: "EditMovie"
         emptyText: search.searching ? "No movie matches the search." : "No movies yet.\nAdd the first one you have watched with +."

@@ -17,6 +17,8 @@ SwipeRow {
         elide: Text.ElideRight
         color: content.textColor.valid ? content.textColor : Theme.paper.text
         font.pixelSize: Theme.caption
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 10
     }
 
     spokenName: cell.MovieNameLabel.text + "\n" + cell.SecondLabel.text + "\n" + cell.ThirdLabel.text
@@ -33,7 +35,7 @@ SwipeRow {
         ImageItem {
             id: cover
 
-            x: 8
+            x: 7
             anchors.verticalCenter: parent.verticalCenter
             width: 44
             height: 44
@@ -44,9 +46,9 @@ SwipeRow {
 
         Column {
             anchors.left: cover.right
-            anchors.leftMargin: 10
+            anchors.leftMargin: 8
             anchors.right: parent.right
-            anchors.rightMargin: 10
+            anchors.rightMargin: 8
             anchors.verticalCenter: parent.verticalCenter
             spacing: 1
 
@@ -54,6 +56,7 @@ SwipeRow {
                 content: row.cell.MovieNameLabel
                 font.pixelSize: 15
                 font.bold: true
+                fontSizeMode: Text.FixedSize
             }
 
             Line {

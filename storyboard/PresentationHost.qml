@@ -1,9 +1,5 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import QtQuick.Templates as T
-import Marrowvale.Controls
-import Marrowvale.Services
 import Marrowvale.Storyboard
 import Marrowvale.Toolkit
 
@@ -24,38 +20,26 @@ Item {
         host.shown = null;
         const kind = host.stage.presentation(host.presented);
         if (kind === "alert")
-            host.shown = alert.createObject(host, {
+            host.show("Alert.qml", {
                 alert: host.presented
             });
         else if (kind === "activity")
-            host.shown = share.createObject(host, {
+            host.show("ShareSheet.qml", {
                 activities: host.presented
             });
     }
 
+    // By address: what no screen has presented yet need not be loaded.
+    function show(layout: string, values: var) {
+        const popup = Qt.createComponent(layout).createObject(host, values) as T.Popup;
+        popup.closed.connect(() => {
+            host.finished();
+            popup.destroy();
+        });
+        host.shown = popup;
+    }
+
     onPresentedChanged: follow()
-
-    Component {
-        id: alert
-
-        Alert {
-            onClosed: {
-                host.finished();
-                destroy();
-            }
-        }
-    }
-
-    Component {
-        id: share
-
-        ShareSheet {
-            onClosed: {
-                host.finished();
-                destroy();
-            }
-        }
-    }
 
     // By address, since a type can't hold itself.
     Loader {

@@ -1,6 +1,7 @@
 #include "storyboard/SceneStage.h"
 
 #include "platform/foundation/Console.h"
+#include "platform/services/Device.h"
 #include "platform/services/UIActivityViewController.h"
 #include "platform/toolkit/UIAlertController.h"
 #include "platform/toolkit/UIBarButtonItem.h"
@@ -45,6 +46,11 @@ SceneStage::~SceneStage()
     qDeleteAll(items);
 }
 
+InterfaceStyle* SceneStage::interfaceStyle()
+{
+    return Device::current().interfaceStyle.get();
+}
+
 QString SceneStage::presentation(UIViewController* controller) const
 {
     if (qobject_cast<UIAlertController*>(controller) != nullptr)
@@ -79,8 +85,9 @@ QQuickItem* SceneStage::makeItem(UIViewController& controller)
     QQmlEngine::setObjectOwnership(&controller, QQmlEngine::CppOwnership);
     QQmlComponent component(&engine, layoutUrlFor(controller));
     if (!component.isReady())
-        fatalError(component.isLoading() ? QStringLiteral("A layout needs itself: ") + component.url().toString()
-                                         : component.errorString());
+        fatalError(component.isLoading()
+                       ? QStringLiteral("A layout needs itself: ") + component.url().toString()
+                       : component.errorString());
     QObject* made = component.createWithInitialProperties(
         {{QStringLiteral("screen"), QVariant::fromValue<QObject*>(&controller)}});
     auto* item = qobject_cast<QQuickItem*>(made);

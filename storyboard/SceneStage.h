@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/services/InterfaceStyle.h"
 #include "platform/toolkit/UINavigationController.h"
 #include "storyboard/Storyboard.h"
 
@@ -15,6 +16,7 @@ class SceneStage : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("Made by the program")
     Q_PROPERTY(UINavigationController* navigation READ navigation CONSTANT FINAL)
+    Q_PROPERTY(InterfaceStyle* interfaceStyle READ interfaceStyle CONSTANT FINAL)
 
 public:
     // `engine` must outlive the stage.
@@ -22,6 +24,9 @@ public:
     ~SceneStage() override;
 
     [[nodiscard]] UINavigationController* navigation() { return &navigationController; }
+
+    // The current device's; it must outlive the stage.
+    [[nodiscard]] static InterfaceStyle* interfaceStyle();
 
     // What shows a presented screen: "alert", "activity", or "" for what the desktop shows by itself.
     Q_INVOKABLE [[nodiscard]] QString presentation(UIViewController* controller) const;

@@ -14,6 +14,7 @@ T.Popup {
     property var titles: []
     property var symbols: []
     readonly property Item area: T.Overlay.overlay
+    property real openness: 0
 
     function choose(index: int) {
         if (sheet.activities !== null)
@@ -22,7 +23,7 @@ T.Popup {
 
     parent: area
     x: area !== null ? (area.width - width) / 2 : 0
-    y: area !== null ? area.height - height : 0
+    y: area !== null ? area.height - height * openness : 0
     width: area !== null ? Math.min(area.width, 520) : 0
     height: implicitContentHeight
     modal: true
@@ -42,17 +43,18 @@ T.Popup {
 
     enter: Transition {
         NumberAnimation {
-            property: "y"
-            from: sheet.area.height
-            to: sheet.area.height - sheet.height
+            target: sheet
+            property: "openness"
+            to: 1
             duration: Theme.slide
             easing.type: Easing.OutCubic
         }
     }
     exit: Transition {
         NumberAnimation {
-            property: "y"
-            to: sheet.area.height
+            target: sheet
+            property: "openness"
+            to: 0
             duration: Theme.slide
             easing.type: Easing.InCubic
         }

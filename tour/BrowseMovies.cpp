@@ -46,7 +46,7 @@ void expectUppermost(Tour& tour, const QString& line)
 
 void chooseOrder(Tour& tour, const Order& order)
 {
-    tour.visitor.tap(menuButton("Menu"));
+    tour.visitor.tap(button("Menu"));
     tour.visitor.expect(choice(order.entry));
     tour.visitor.tap(choice(order.entry));
     tour.visitor.expectNo(choice(order.entry));
@@ -110,7 +110,7 @@ void browseMovies(Tour& tour)
         sortBothWays(tour, order);
         search(tour, order);
     }
-    tour.visitor.tap(menuButton("Menu"));
+    tour.visitor.tap(button("Menu"));
     tour.visitor.expect(text("Sort By"));
     tour.picture("sort-menu");
     tour.visitor.press(Qt::Key_Escape);

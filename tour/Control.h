@@ -23,10 +23,6 @@ inline Control button(const QString& name)
 {
     return {QAccessible::Button, name};
 }
-inline Control menuButton(const QString& name)
-{
-    return {QAccessible::ButtonMenu, name};
-}
 inline Control choice(const QString& name)
 {
     return {QAccessible::MenuItem, name};

@@ -14,10 +14,9 @@ constexpr int glance = 60;
 QString describe(const Control& control)
 {
     static const QMap<QAccessible::Role, QString> kinds{
-        {QAccessible::Button, "button"},         {QAccessible::ButtonMenu, "menu button"},
-        {QAccessible::MenuItem, "choice"},       {QAccessible::EditableText, "field"},
-        {QAccessible::Heading, "heading"},       {QAccessible::StaticText, "text"},
-        {QAccessible::ListItem, "row or value"},
+        {QAccessible::Button, "button"},      {QAccessible::MenuItem, "choice"},
+        {QAccessible::EditableText, "field"}, {QAccessible::Heading, "heading"},
+        {QAccessible::StaticText, "text"},    {QAccessible::ListItem, "row or value"},
     };
     return kinds.value(control.role) + " \"" + control.name + "\"";
 }
@@ -25,6 +24,12 @@ QString describe(const Control& control)
 bool cutsOff(const QQuickItem& item)
 {
     return item.clip() || item.inherits("QQuickFlickable");
+}
+
+// Not boundingRect(): of a text that is no more than its letters.
+QRectF placeInScene(const QQuickItem& item)
+{
+    return item.mapRectToScene(QRectF(QPointF(), item.size()));
 }
 
 } // namespace
@@ -43,10 +48,10 @@ QRect Visitor::visiblePart(QAccessibleInterface& seen) const
     if (item == nullptr || seen.state().invisible)
         return {};
     QRectF part(QPointF(), QSizeF(window.size()));
-    part &= item->mapRectToScene(item->boundingRect());
+    part &= placeInScene(*item);
     for (QQuickItem* above = item->parentItem(); above != nullptr; above = above->parentItem())
         if (cutsOff(*above))
-            part &= above->mapRectToScene(above->boundingRect());
+            part &= placeInScene(*above);
     return part.toAlignedRect();
 }
 

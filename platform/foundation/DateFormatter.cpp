@@ -57,7 +57,7 @@ void DateFormatter::open()
                   explicitPattern.utf16(), icuLength(explicitPattern), &status);
     if (U_FAILURE(status))
         return;
-    udat_setLenient(opened, false);
+    udat_setLenient(opened, UBool{0});
     format = std::shared_ptr<void*>(opened, udat_close);
 }
 
@@ -65,7 +65,7 @@ QString DateFormatter::stringFrom(const QDateTime& date) const
 {
     if (!format || !date.isValid())
         return QString();
-    std::array<char16_t, 256> text; // The longest full date of any locale has less than 100.
+    std::array<char16_t, 256> text{}; // The longest full date of any locale has less than 100.
     UErrorCode status = U_ZERO_ERROR;
     const auto length = udat_format(format.get(), static_cast<UDate>(date.toMSecsSinceEpoch()), text.data(),
                                     static_cast<int32_t>(text.size()), nullptr, &status);

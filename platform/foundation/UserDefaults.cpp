@@ -10,8 +10,8 @@
 
 namespace {
 
-// An INI file knows only text. Values stand in it as a person would write them; a text that would be taken for another
-// type carries this mark.
+// An INI file knows only text. Values stand in it as a person would write them; a text that would be taken
+// for another type carries this mark.
 constexpr QLatin1String textMark("text:");
 
 QString written(const QDateTime& date)

@@ -50,11 +50,11 @@ Result<NamedContent> sharedFile(const QUrl& url)
 // A file stands for itself, a picture without words for a picture; anything else becomes a text.
 Result<NamedContent> fileOf(const std::vector<ActivityItem>& items)
 {
-    const QUrl* url = firstOf<QUrl>(items);
+    const auto* url = firstOf<QUrl>(items);
     if (url != nullptr && url->isLocalFile())
         return sharedFile(*url);
     const QString text = textOf(items);
-    const QImage* image = firstOf<QImage>(items);
+    const auto* image = firstOf<QImage>(items);
     if (image == nullptr || !text.isEmpty())
         return NamedContent{QStringLiteral("Shared.txt"), text.toUtf8()};
     QBuffer buffer;
@@ -65,7 +65,7 @@ Result<NamedContent> fileOf(const std::vector<ActivityItem>& items)
 void copyToPasteboard(const std::vector<ActivityItem>& items, UIViewController& /*presenter*/)
 {
     Pasteboard& pasteboard = *Device::current().pasteboard;
-    const QImage* image = firstOf<QImage>(items);
+    const auto* image = firstOf<QImage>(items);
     const QString text = textOf(items);
     if (image != nullptr && text.isEmpty())
         pasteboard.setImage(*image);

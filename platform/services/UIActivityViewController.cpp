@@ -10,12 +10,12 @@ constexpr int previewLength = 200;
 } // namespace
 
 UIActivityViewController::UIActivityViewController(std::vector<ActivityItem> items,
-                                                   std::vector<ActivityType> excludedActivityTypes)
+                                                   const std::vector<ActivityType>& excludedActivityTypes)
     : items(std::move(items))
 {
     for (const Activity& activity : allActivities()) {
-        const auto& excluded = excludedActivityTypes;
-        if (std::find(excluded.begin(), excluded.end(), activity.type) == excluded.end())
+        if (std::find(excludedActivityTypes.begin(), excludedActivityTypes.end(), activity.type) ==
+            excludedActivityTypes.end())
             offered.push_back(&activity);
     }
 }

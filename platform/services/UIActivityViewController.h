@@ -26,7 +26,7 @@ public:
     enum class ActivityType { CopyToPasteboard, SaveToFiles };
 
     explicit UIActivityViewController(std::vector<ActivityItem> items,
-                                      std::vector<ActivityType> excludedActivityTypes = {});
+                                      const std::vector<ActivityType>& excludedActivityTypes = {});
     ~UIActivityViewController() override;
 
     [[nodiscard]] const std::vector<ActivityItem>& activityItems() const { return items; }

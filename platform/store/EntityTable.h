@@ -12,7 +12,7 @@ class EntityTable
 public:
     using Sink = std::function<void(std::shared_ptr<NSManagedObject>)>;
 
-    EntityTable(const NSEntityDescription& entity, NSManagedObjectContext& context, Database& database);
+    EntityTable(const NSEntityDescription& entity, NSManagedObjectContext& context, Database& opened);
     // Cuts the objects in memory loose.
     ~EntityTable();
     EntityTable(const EntityTable&) = delete;

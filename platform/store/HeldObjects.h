@@ -26,7 +26,7 @@ public:
     void remove(qint64 id)
     {
         const auto page = pages.find(id / pageSize);
-        if (page != pages.end() && std::exchange(page->second[slotOf(id)], nullptr))
+        if (page != pages.end() && std::exchange(page->second[slotOf(id)], nullptr) != nullptr)
             --count;
     }
     [[nodiscard]] qsizetype size() const { return count; }

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] AttributeValue value(int index, AttributeType type) const;
 
     void set(int index, AttributeValue value, const NSEntityDescription& entity);
-    [[nodiscard]] bool isChanged(int index) const { return changed >> index & 1U; }
+    [[nodiscard]] bool isChanged(int index) const { return (changed >> index & 1U) != 0; }
     // The changes were saved.
     void settle(const NSEntityDescription& entity);
 

@@ -65,7 +65,7 @@ public:
     // The user tapped a row.
     Q_INVOKABLE void select(int row);
     // The titles of the buttons that a swipe uncovers; none where a row can't be edited.
-    Q_INVOKABLE QStringList swipeActionTitles(int row) const;
+    Q_INVOKABLE [[nodiscard]] QStringList swipeActionTitles(int row) const;
     Q_INVOKABLE void performSwipeAction(int row, int action);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

@@ -29,7 +29,7 @@ Pressable {
         anchors.margins: 2
         radius: 10
         color: button.tint
-        opacity: button.hovered ? 0.1 : 0
+        opacity: button.hovered && button.enabled ? 0.1 : 0
     }
 
     Symbol {

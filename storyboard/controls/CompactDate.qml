@@ -1,14 +1,8 @@
 import QtQuick
-import Marrowvale.Toolkit
 
 // The date on a button that opens the month.
-Item {
+DateView {
     id: compact
-
-    required property UIDatePicker picker
-    property Shades shades: Theme.shades
-
-    signal shifted(days: int, months: int)
 
     function dateText(): string {
         const shown = new Date(2000, 0, 1);

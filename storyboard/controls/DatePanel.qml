@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Marrowvale.Toolkit
 
@@ -29,47 +27,33 @@ InputView {
             panel.picker.pick(target.getFullYear(), target.getMonth() + 1, target.getDate());
     }
 
+    function load() {
+        const values = {
+            picker: panel.picker,
+            shades: panel.shades
+        };
+        if (panel.picker.preferredDatePickerStyle === UIDatePicker.Inline)
+            loader.setSource("MonthCalendar.qml", values);
+        else if (panel.picker.preferredDatePickerStyle === UIDatePicker.Compact)
+            loader.setSource("CompactDate.qml", values);
+        else
+            loader.setSource("DateWheels.qml", values);
+    }
+
     implicitHeight: Math.max(picker !== null ? picker.height : 0, loader.implicitHeight)
+    Component.onCompleted: load()
 
     Loader {
         id: loader
 
         width: parent.width
-        sourceComponent: {
-            if (panel.picker === null)
-                return null;
-            if (panel.picker.preferredDatePickerStyle === UIDatePicker.Inline)
-                return calendar;
-            return panel.picker.preferredDatePickerStyle === UIDatePicker.Compact ? compact : wheels;
-        }
     }
 
-    Component {
-        id: wheels
+    Connections {
+        target: loader.item as DateView
 
-        DateWheels {
-            picker: panel.picker
-            shades: panel.shades
-        }
-    }
-
-    Component {
-        id: calendar
-
-        MonthCalendar {
-            picker: panel.picker
-            shades: panel.shades
-            onShifted: (days, months) => panel.shift(days, months)
-        }
-    }
-
-    Component {
-        id: compact
-
-        CompactDate {
-            picker: panel.picker
-            shades: panel.shades
-            onShifted: (days, months) => panel.shift(days, months)
+        function onShifted(days, months) {
+            panel.shift(days, months);
         }
     }
 }

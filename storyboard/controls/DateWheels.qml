@@ -1,12 +1,9 @@
 import QtQuick
-import Marrowvale.Toolkit
 
 // Day, month and year, a wheel each, in the order of the user's locale.
-Item {
+DateView {
     id: wheels
 
-    required property UIDatePicker picker
-    property Shades shades: Theme.shades
     readonly property bool monthFirst: Qt.locale().dateFormat(Locale.ShortFormat).startsWith("M")
 
     implicitHeight: 216

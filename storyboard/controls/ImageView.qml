@@ -1,4 +1,5 @@
 import QtQuick
+import Marrowvale.Controls
 import Marrowvale.Toolkit
 
 // A picture with its border; a symbol stands in for none.

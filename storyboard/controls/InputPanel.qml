@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Marrowvale.Toolkit
 
@@ -7,19 +5,42 @@ import Marrowvale.Toolkit
 FocusScope {
     id: panel
 
+    // The field being edited; null: none.
     required property UITextField field
-    readonly property UIView view: field !== null ? field.inputView : null
+    readonly property bool wanted: field !== null && field.inputView !== null
     // Stays while the panel slides away.
-    property UIView shownView: null
-    property real openness: view !== null ? 1 : 0
+    property UITextField shownField: null
+    readonly property UIView shownView: shownField !== null ? shownField.inputView : null
+    property real openness: wanted ? 1 : 0
 
+    // A key that the field has no use for: Alt+Down enters the panel, the input view may know others.
     function turn(event) {
-        if (panel.view !== null)
+        if (!panel.wanted)
+            return;
+        if (event.key === Qt.Key_Down && event.modifiers & Qt.AltModifier)
+            panel.nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason);
+        else
             (loader.item as InputView)?.turn(event);
     }
 
-    onViewChanged: if (view !== null)
-        shownView = view
+    function keepField() {
+        if (panel.wanted)
+            panel.shownField = panel.field;
+    }
+
+    function load() {
+        const values = {
+            picker: panel.shownView
+        };
+        if (panel.shownView as UIDatePicker)
+            loader.setSource("DatePanel.qml", values);
+        else if (panel.shownView as UIPickerView)
+            loader.setSource("PickerPanel.qml", values);
+    }
+
+    onFieldChanged: keepField()
+    onWantedChanged: keepField()
+    onShownViewChanged: load()
     onFocusChanged: FirstResponder.panelFocused = focus
     onOpennessChanged: if (openness === 0)
         focus = false
@@ -49,7 +70,7 @@ FocusScope {
         InputToolbar {
             width: parent.width
             visible: toolbar !== null
-            toolbar: panel.field !== null ? panel.field.inputAccessoryView : null
+            toolbar: panel.shownField !== null ? panel.shownField.inputAccessoryView : null
         }
 
         Rectangle {
@@ -67,28 +88,7 @@ FocusScope {
 
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.min(parent.width, 480)
-                sourceComponent: {
-                    if (panel.shownView as UIDatePicker)
-                        return datePanel;
-                    return panel.shownView as UIPickerView ? pickerPanel : null;
-                }
             }
-        }
-    }
-
-    Component {
-        id: datePanel
-
-        DatePanel {
-            picker: panel.shownView as UIDatePicker
-        }
-    }
-
-    Component {
-        id: pickerPanel
-
-        PickerPanel {
-            picker: panel.shownView as UIPickerView
         }
     }
 }

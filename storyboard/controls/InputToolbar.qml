@@ -9,7 +9,15 @@ Rectangle {
 
     required property UIToolbar toolbar
     readonly property var items: toolbar?.items ?? []
+    readonly property color tint: toolbar !== null && toolbar.tintColor.valid ? toolbar.tintColor : Theme.shades.accent
+    // Flexible spaces share what the buttons leave.
     readonly property int spaces: items.filter(item => item.flexibleSpace).length
+    readonly property real taken: {
+        let sum = 0;
+        for (let i = 0; i < row.children.length; ++i)
+            sum += (row.children[i] as ToolbarButton)?.naturalWidth ?? 0;
+        return sum;
+    }
 
     implicitHeight: Theme.target
     color: {
@@ -25,30 +33,16 @@ Rectangle {
         anchors.leftMargin: 8
         anchors.rightMargin: 8
 
-        readonly property real taken: {
-            let sum = 0;
-            for (let i = 0; i < children.length; ++i)
-                sum += children[i].naturalWidth ?? 0;
-            return sum;
-        }
-
         Repeater {
-            id: buttons
-
             model: bar.items.length
 
-            BarButton {
+            ToolbarButton {
                 required property int index
-                readonly property UIBarButtonItem item: bar.items[index]
-                readonly property real naturalWidth: item.flexibleSpace ? 0 : implicitWidth
 
-                width: item.flexibleSpace ? (row.width - row.taken) / bar.spaces : implicitWidth
-                outlet: item
-                enabled: !item.flexibleSpace
+                item: bar.items[index] ?? null
+                spaceWidth: (row.width - bar.taken) / bar.spaces
                 prominent: index === bar.items.length - 1
-                tint: bar.toolbar.tintColor.valid ? bar.toolbar.tintColor : Theme.shades.accent
-                Accessible.ignored: item.flexibleSpace
-                onTriggered: item.tap()
+                tint: bar.tint
             }
         }
     }

@@ -1,14 +1,11 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Marrowvale.Toolkit
 
 // A month of days, with ways to the months around it. The arrow keys move the picked day.
-Item {
+DateView {
     id: calendar
 
-    required property UIDatePicker picker
-    property Shades shades: Theme.shades
     property int shownYear
     property int shownMonth
     readonly property int cellSize: Math.floor(Math.min(width - 16, 7 * 48) / 7)
@@ -22,8 +19,6 @@ Item {
         last.setFullYear(shownYear, shownMonth, 0);
         return last.getDate();
     }
-
-    signal shifted(days: int, months: int)
 
     function showPicked() {
         if (calendar.picker === null)

@@ -38,7 +38,7 @@ Pressable {
         y: (button.openness - 1) * height / 2
         radius: button.outlet !== null ? button.outlet.layer.cornerRadius : 10
         color: button.shades.surface
-        border.width: button.outlet !== null ? button.outlet.layer.borderWidth : 0
+        border.width: button.outlet !== null ? button.outlet.layer.borderWidth : 1
         border.color: button.outlet !== null && button.outlet.layer.borderColor.valid ? button.outlet.layer.borderColor : button.shades.divider
 
         Rectangle {

@@ -46,6 +46,7 @@ FocusScope {
 
         property real openness: scene.navigation !== null && scene.navigation.navigationBarHidden ? 0 : 1
 
+        z: 1
         width: parent.width
         y: (openness - 1) * height
         visible: openness > 0
@@ -78,6 +79,20 @@ FocusScope {
         anchors.bottom: inputPanel.top
         width: parent.width
         clip: inputPanel.height > 0
+    }
+
+    // A stroke from the left edge goes back, as the button does.
+    Item {
+        width: 16
+        height: parent.height
+
+        DragHandler {
+            target: null
+            yAxis.enabled: false
+            enabled: scene.canGoBack
+            onActiveTranslationChanged: if (active && activeTranslation.x > 60)
+                scene.goBack()
+        }
     }
 
     InputPanel {

@@ -1,7 +1,7 @@
 import QtQuick
 import Marrowvale.Toolkit
 
-// A search field with a button that clears it. Escape clears it too; `left` says that the user is done here.
+// A search field with a button that clears it. Escape clears it too; `finished` says that the user is done here.
 FocusScope {
     id: bar
 
@@ -9,7 +9,7 @@ FocusScope {
 
     readonly property bool searching: outlet.text.length > 0
 
-    signal left
+    signal finished
 
     function begin() {
         input.forceActiveFocus(Qt.ShortcutFocusReason);
@@ -19,14 +19,14 @@ FocusScope {
     function cancel() {
         if (bar.outlet.text.length > 0)
             bar.outlet.setText("");
-        bar.left();
+        bar.finished();
     }
 
     implicitHeight: Theme.target
 
     Keys.onEscapePressed: cancel()
-    Keys.onDownPressed: left()
-    Keys.onReturnPressed: left()
+    Keys.onDownPressed: finished()
+    Keys.onReturnPressed: finished()
 
     Rectangle {
         anchors.fill: parent

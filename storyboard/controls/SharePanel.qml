@@ -37,7 +37,7 @@ FocusScope {
         Label {
             width: parent.width
             padding: Theme.margin
-            text: panel.preview
+            text: panel.preview.trim()
             color: Theme.shades.secondary
             font.pixelSize: Theme.small
             wrapMode: Text.Wrap

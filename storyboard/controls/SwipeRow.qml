@@ -90,7 +90,7 @@ Item {
                 required property int index
 
                 width: Math.max(row.actionWidth, index === 0 ? -face.x : 0) - 6
-                height: parent.height
+                height: row.height
                 title: row.actions[index]
                 onTriggered: row.act(index)
             }

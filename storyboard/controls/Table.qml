@@ -7,6 +7,8 @@ FocusScope {
     id: table
 
     required property UITableView outlet
+    // Told to assistive technology.
+    required property string name
     property string segue
     property string emptyText
     property int columnWidth: Theme.columnWidth
@@ -69,6 +71,7 @@ FocusScope {
         boundsBehavior: Flickable.DragAndOvershootBounds
 
         Accessible.role: Accessible.List
+        Accessible.name: table.name
 
         onMovementStarted: keepOpen(null)
         onActiveFocusChanged: if (!activeFocus)

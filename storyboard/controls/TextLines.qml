@@ -4,13 +4,13 @@ import QtQuick
 import QtQuick.Templates as T
 import Marrowvale.Toolkit
 
-// A long text to read: only the lines in sight are laid out, and an endless line is cut into pieces.
+// A long text to read: it is cut into pieces, and only those in sight are laid out.
 Rectangle {
     id: view
 
     required property UITextView outlet
     property string emptyText
-    readonly property int longestPiece: 1000
+    readonly property int longestPiece: 2000
     property var pieces: []
     property string shownText
 
@@ -18,11 +18,20 @@ Rectangle {
         if (view.outlet.text === view.shownText)
             return;
         view.shownText = view.outlet.text;
+        view.pieces = view.cut(view.shownText);
+    }
+
+    // Between lines where there are any.
+    function cut(text: string): var {
         const made = [];
-        for (const line of view.shownText.split("\n"))
-            for (let from = 0; from === 0 || from < line.length; from += view.longestPiece)
-                made.push(line.slice(from, from + view.longestPiece));
-        view.pieces = made;
+        for (let from = 0; from < text.length;) {
+            const most = from + view.longestPiece;
+            const lineEnd = most < text.length ? text.lastIndexOf("\n", most) : text.length;
+            const to = lineEnd > from ? lineEnd : most;
+            made.push(text.slice(from, to));
+            from = lineEnd > from ? to + 1 : to;
+        }
+        return made;
     }
 
     radius: outlet.layer.cornerRadius > 0 ? outlet.layer.cornerRadius : 10

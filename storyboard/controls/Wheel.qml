@@ -29,7 +29,9 @@ Item {
     }
 
     function step(by: int) {
-        wheel.turnTo(Math.max(0, Math.min(list.currentIndex + by, wheel.count - 1)));
+        // Where nothing was chosen yet, the row in the middle comes first.
+        const from = wheel.row < 0 ? list.currentIndex - by : list.currentIndex;
+        wheel.turnTo(Math.max(0, Math.min(from + by, wheel.count - 1)));
     }
 
     function follow() {

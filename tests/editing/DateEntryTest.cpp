@@ -41,7 +41,9 @@ protected:
 TEST_F(DateEntryTest, TheLastMatchingSettingThatTheSystemOffersIsThePickersStyle)
 {
     using Style = UIDatePicker::Style;
-    const QString wheel = "UseDateWheel", compact = "UseDateCompact", calendar = "UseDateInline";
+    const QString wheel = "UseDateWheel";
+    const QString compact = "UseDateCompact";
+    const QString calendar = "UseDateInline";
     struct Case
     {
         double version;

@@ -127,7 +127,7 @@ TEST_F(ImportTest, EveryLineMakesOrMeetsARecord)
     const QString header = "[MARROWVALE]" + blank;
     const struct
     {
-        const char* what;
+        const char* what = nullptr;
         QStringList lines;
         QStringList records;
     } cases[]{

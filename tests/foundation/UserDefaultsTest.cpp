@@ -80,13 +80,15 @@ TEST(UserDefaults, TheFileReadsAsAPersonWouldWriteIt)
     QDir().mkpath(QFileInfo(settingsPath()).path());
     QFile file(settingsPath());
     ASSERT_TRUE(file.open(QFile::WriteOnly));
-    file.write("[General]\nUseDateWheel=true\nDefaultDate=\"Mar 5, 2021\"\nlastRequest=2021-03-05T20:15:00.000Z\n"
-               "soon=2021-03\n");
+    file.write(
+        "[General]\nUseDateWheel=true\nDefaultDate=\"Mar 5, 2021\"\nlastRequest=2021-03-05T20:15:00.000Z\n"
+        "soon=2021-03\n");
     file.close();
     const auto defaults = UserDefaults::standard();
     EXPECT_TRUE(defaults.boolForKey("UseDateWheel"));
     EXPECT_EQ(defaults.objectForKey("DefaultDate"), QVariant("Mar 5, 2021"));
-    EXPECT_EQ(defaults.objectForKey("lastRequest"), QVariant(QDateTime(QDate(2021, 3, 5), QTime(20, 15), Qt::UTC)));
+    EXPECT_EQ(defaults.objectForKey("lastRequest"),
+              QVariant(QDateTime(QDate(2021, 3, 5), QTime(20, 15), Qt::UTC)));
     EXPECT_EQ(defaults.objectForKey("soon"), QVariant("2021-03")) << "not a whole moment: a text";
 }
 

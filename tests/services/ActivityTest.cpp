@@ -19,7 +19,7 @@ protected:
         return *qobject_cast<UIActivityViewController*>(screen.presentedViewController());
     }
 
-    QString alertText() const
+    [[nodiscard]] QString alertText() const
     {
         const auto* alert = qobject_cast<UIAlertController*>(screen.presentedViewController());
         return alert == nullptr

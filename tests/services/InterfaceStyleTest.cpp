@@ -34,7 +34,7 @@ protected:
         setDesktopDark(false);
     }
 
-    QDBusConnection connection(const QString& name) const
+    [[nodiscard]] QDBusConnection connection(const QString& name) const
     {
         return QDBusConnection::connectToBus(address, name);
     }
@@ -99,6 +99,7 @@ TEST_F(InterfaceStyleTest, FollowsThePortalsSettingAndNoOther)
     const auto set = [this](const QString& group, const QString& key, uint value) {
         Q_EMIT portal->SettingChanged(group, key, QDBusVariant(value));
     };
+    ASSERT_TRUE(comesTrue([this] { return portal->asked > 0; })) << "whoever asks listens already";
     set("org.freedesktop.appearance", "color-scheme", Dark);
     set("org.freedesktop.appearance", "contrast", Light);
     set("org.example.appearance", "color-scheme", Light);

@@ -20,7 +20,7 @@ public:
     std::optional<uint> scheme;
     int asked = 0;
 
-public Q_SLOTS:
+public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)
     QDBusVariant Read(const QString& group, const QString& key);
 
 Q_SIGNALS:

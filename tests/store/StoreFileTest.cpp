@@ -121,7 +121,7 @@ TEST(StoreFile, isMadeForItsOwnerAlone)
 TEST(StoreFile, anEmptyFileOrDatabaseBecomesAStore)
 {
     for (const auto isDatabase : {false, true}) {
-        const auto directory = TestStore::directory() + QString::number(isDatabase);
+        const auto directory = TestStore::directory() + (isDatabase ? "1" : "0");
         const auto path = directory + QStringLiteral("/Films.sqlite");
         QDir().mkpath(directory);
         if (isDatabase)

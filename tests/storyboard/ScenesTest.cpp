@@ -19,9 +19,8 @@ std::unique_ptr<UIViewController> made(const QString& screenClass)
 // Controls in sight that assistive technology could not call by a name.
 QStringList namelessControls(QWindow& window)
 {
-    static const QSet<int> roles{QAccessible::Button,   QAccessible::ButtonMenu, QAccessible::EditableText,
-                                 QAccessible::ListItem, QAccessible::MenuItem,   QAccessible::StaticText,
-                                 QAccessible::Heading,  QAccessible::Graphic};
+    static const QSet<int> roles{QAccessible::Button,     QAccessible::EditableText, QAccessible::ListItem,
+                                 QAccessible::StaticText, QAccessible::Heading,      QAccessible::Graphic};
     QStringList nameless;
     forEachAccessible(window, [&](QAccessibleInterface& seen) {
         if (roles.contains(seen.role()) && !seen.state().invisible && seen.text(QAccessible::Name).isEmpty())

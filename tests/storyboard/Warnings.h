@@ -7,9 +7,9 @@ class Warnings
 {
 public:
     Warnings()
+        : before(qInstallMessageHandler(keep))
     {
         kept().clear();
-        before = qInstallMessageHandler(keep);
     }
     ~Warnings() { qInstallMessageHandler(before); }
     Warnings(const Warnings&) = delete;

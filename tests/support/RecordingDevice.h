@@ -36,7 +36,7 @@ struct RecordingDevice : Device
     };
     struct RecordingDocuments : Documents
     {
-        void pickDocument(const Request& request, Picked tell) override;
+        void pickDocument(const Request& asked, Picked tell) override;
         void cancelPicking() override { picked = nullptr; }
         void saveDocument(const QString& name, const QByteArray& content, Saved tell) override;
         Request request;

@@ -42,7 +42,7 @@ class Hub : public Page
 public:
     using Page::Page;
 
-    Q_INVOKABLE void unwindToHubWithSegue(UIStoryboardSegue segue)
+    Q_INVOKABLE void unwindToHubWithSegue(const UIStoryboardSegue& segue)
     {
         note(QStringLiteral("unwound from ") + static_cast<Page*>(segue.source)->name);
     }
@@ -52,8 +52,8 @@ public:
 class Pages : public UIStoryboard
 {
 public:
-    std::optional<SegueTarget> segue(const UIViewController& /*source*/,
-                                     const QString& identifier) const override
+    [[nodiscard]] std::optional<SegueTarget> segue(const UIViewController& /*source*/,
+                                                   const QString& identifier) const override
     {
         if (identifier == QStringLiteral("leaf"))
             return SegueTarget{[] { return std::make_unique<Page>(QStringLiteral("leaf")); }, {}};

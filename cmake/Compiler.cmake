@@ -19,6 +19,8 @@ endif()
 add_compile_options(-Wall -Wextra -Wpedantic -Werror)
 add_compile_definitions(QT_NO_FOREACH QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(MARROWVALE_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    # The code that the sanitizers weave in makes the compiler doubt variables that are set.
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+                        -Wno-maybe-uninitialized)
     add_link_options(-fsanitize=address,undefined)
 endif()

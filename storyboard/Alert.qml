@@ -25,6 +25,7 @@ T.Popup {
     modal: true
     focus: true
     closePolicy: T.Popup.NoAutoClose
+    onClosed: destroy()
 
     Component.onCompleted: {
         heading = alert.title;

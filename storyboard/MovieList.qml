@@ -49,6 +49,7 @@ Scene {
         y: 8
         width: Math.min(parent.width, Theme.columnWidth + 2 * Theme.margin) - 2 * Theme.gap
         outlet: root.screen.searchController.searchBar
+        onEdited: table.showTop()
         onFinished: table.forceActiveFocus()
     }
 

@@ -32,10 +32,7 @@ Item {
     // By address: what no screen has presented yet need not be loaded.
     function show(layout: string, values: var) {
         const popup = Qt.createComponent(layout).createObject(host, values) as T.Popup;
-        popup.closed.connect(() => {
-            host.finished();
-            popup.destroy();
-        });
+        popup.closed.connect(host.finished);
         host.shown = popup;
     }
 

@@ -36,6 +36,7 @@ T.Popup {
         symbols = activities.activitySymbols;
         open();
     }
+    onClosed: destroy()
     onAboutToHide: if (sheet.activities !== null)
         sheet.activities.cancel()
 

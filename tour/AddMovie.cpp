@@ -63,6 +63,8 @@ void turnWheels(Tour& tour)
     visitor.tap(field("Rating"));
     visitor.expect(wheelValue("PG-13"));
     visitor.press(Qt::Key_Down);
+    visitor.expectText(field("Rating"), "G");
+    visitor.press(Qt::Key_Down);
     visitor.expectText(field("Rating"), "PG");
     visitor.reach(field("Provider"));
     visitor.tap(field("Provider"));

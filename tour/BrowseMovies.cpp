@@ -13,7 +13,7 @@ struct Order
 };
 
 const Order orders[] = {
-    {"By Genre", "genre", "Genre: ", "sci"},
+    {"By Genre", "genre", "Genre: ", "com"},
     {"By Year", "yearReleased", "Year Released: ", "19"},
     {"By Rating", "rating", "Rating: ", "pg"},
     {"By Movie Name", "movieName", "Movie Name: ", "man"},

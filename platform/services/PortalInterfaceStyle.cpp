@@ -36,6 +36,8 @@ PortalInterfaceStyle::PortalInterfaceStyle(const QDBusConnection& bus)
     if (!bus.isConnected())
         return;
     QDBusConnection session(bus);
+    // Until then a slot that takes one is never called.
+    qRegisterMetaType<QDBusVariant>();
     session.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
                     SLOT(settingChanged(QString, QString, QDBusVariant)));
     QDBusMessage read =

@@ -3,10 +3,10 @@
 #include "platform/services/InterfaceStyle.h"
 
 #include <QDBusConnection>
+#include <QDBusVariant>
 #include <QVariant>
 
 class QDBusPendingCallWatcher;
-class QDBusVariant;
 
 // Dark or light as the desktop portal says; where it doesn't, as the palette is. Asks once without waiting,
 // then follows the portal's changes.

@@ -3,6 +3,7 @@
 #include <QtGlobal>
 #include <array>
 #include <unordered_map>
+#include <utility>
 
 class NSManagedObject;
 
@@ -14,18 +15,18 @@ public:
     // Null when there is none.
     [[nodiscard]] NSManagedObject* find(qint64 id) const
     {
-        const auto page = pages.find(id / pageSize);
+        const auto page = pages.find(pageOf(id));
         return page == pages.end() ? nullptr : page->second[slotOf(id)];
     }
     // There is none yet.
     void insert(qint64 id, NSManagedObject* object)
     {
-        pages[id / pageSize][slotOf(id)] = object;
+        pages[pageOf(id)][slotOf(id)] = object;
         ++count;
     }
     void remove(qint64 id)
     {
-        const auto page = pages.find(id / pageSize);
+        const auto page = pages.find(pageOf(id));
         if (page != pages.end() && std::exchange(page->second[slotOf(id)], nullptr) != nullptr)
             --count;
     }
@@ -43,14 +44,13 @@ public:
     }
 
 private:
-    static constexpr qint64 pageSize = 1024;
+    static constexpr quint64 pageSize = 1024;
     using Page = std::array<NSManagedObject*, pageSize>;
 
-    [[nodiscard]] static std::size_t slotOf(qint64 id)
-    {
-        return static_cast<std::size_t>(static_cast<quint64>(id) % pageSize);
-    }
+    // Unsigned, for another program may have stored a negative id.
+    [[nodiscard]] static quint64 pageOf(qint64 id) { return static_cast<quint64>(id) / pageSize; }
+    [[nodiscard]] static std::size_t slotOf(qint64 id) { return static_cast<quint64>(id) % pageSize; }
 
-    std::unordered_map<qint64, Page> pages;
+    std::unordered_map<quint64, Page> pages;
     qsizetype count = 0;
 };

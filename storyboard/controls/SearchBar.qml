@@ -9,6 +9,7 @@ FocusScope {
 
     readonly property bool searching: outlet.text.length > 0
 
+    signal edited
     signal finished
 
     function begin() {
@@ -16,9 +17,14 @@ FocusScope {
         input.selectAll();
     }
 
+    function search(text: string) {
+        bar.outlet.setText(text);
+        bar.edited();
+    }
+
     function cancel() {
-        if (bar.outlet.text.length > 0)
-            bar.outlet.setText("");
+        if (bar.searching)
+            bar.search("");
         bar.finished();
     }
 
@@ -82,7 +88,7 @@ FocusScope {
         Accessible.editable: true
         Accessible.searchEdit: true
 
-        onTextEdited: bar.outlet.setText(text)
+        onTextEdited: bar.search(text)
 
         Connections {
             target: bar.outlet
@@ -104,7 +110,7 @@ FocusScope {
         image: "xmark.circle.fill"
         tint: Theme.shades.secondary
         onTriggered: {
-            bar.outlet.setText("");
+            bar.search("");
             input.forceActiveFocus();
         }
     }

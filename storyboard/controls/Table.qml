@@ -16,6 +16,10 @@ FocusScope {
 
     signal triggered
 
+    function showTop() {
+        list.positionViewAtBeginning();
+    }
+
     Connections {
         target: table.outlet
 

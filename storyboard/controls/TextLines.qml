@@ -25,11 +25,10 @@ Rectangle {
     function cut(text: string): var {
         const made = [];
         for (let from = 0; from < text.length;) {
-            const most = from + view.longestPiece;
-            const lineEnd = most < text.length ? text.lastIndexOf("\n", most) : text.length;
-            const to = lineEnd > from ? lineEnd : most;
-            made.push(text.slice(from, to));
-            from = lineEnd > from ? to + 1 : to;
+            const piece = text.slice(from, from + view.longestPiece);
+            const lineEnd = from + piece.length < text.length ? piece.lastIndexOf("\n") : -1;
+            made.push(lineEnd < 0 ? piece : piece.slice(0, lineEnd));
+            from += lineEnd < 0 ? piece.length : lineEnd + 1;
         }
         return made;
     }

@@ -5,7 +5,7 @@ import QtQuick
 // A wheel of texts, turned by dragging, the mouse wheel, the arrow keys or a tap on a row. Showing a value is not
 // turning to it.
 Item {
-    id: wheel
+    id: dial
 
     required property string name
     // What the rows say; none: rows are numbered from 1 to `count`.
@@ -22,21 +22,21 @@ Item {
     signal turned(row: int)
 
     function turnTo(row: int) {
-        if (row < 0 || row >= wheel.count)
+        if (row < 0 || row >= dial.count)
             return;
         list.currentIndex = row;
-        wheel.turned(row);
+        dial.turned(row);
     }
 
     function step(by: int) {
         // Where nothing was chosen yet, the row in the middle comes first.
-        const from = wheel.row < 0 ? list.currentIndex - by : list.currentIndex;
-        wheel.turnTo(Math.max(0, Math.min(from + by, wheel.count - 1)));
+        const from = dial.row < 0 ? list.currentIndex - by : list.currentIndex;
+        dial.turnTo(Math.max(0, Math.min(from + by, dial.count - 1)));
     }
 
     function follow() {
-        if (wheel.row >= 0 && !list.moving && list.currentIndex !== wheel.row)
-            list.currentIndex = wheel.row;
+        if (dial.row >= 0 && !list.moving && list.currentIndex !== dial.row)
+            list.currentIndex = dial.row;
     }
 
     implicitHeight: 216
@@ -60,10 +60,10 @@ Item {
     Rectangle {
         anchors.centerIn: parent
         width: parent.width - 8
-        height: wheel.rowHeight
+        height: dial.rowHeight
         radius: 10
-        color: wheel.markColor
-        opacity: wheel.activeFocus ? 0.26 : 0.13
+        color: dial.markColor
+        opacity: dial.activeFocus ? 0.26 : 0.13
     }
 
     ListView {
@@ -71,50 +71,51 @@ Item {
 
         anchors.fill: parent
         clip: true
-        model: wheel.count
+        model: dial.count
         snapMode: ListView.SnapToItem
         highlightRangeMode: ListView.StrictlyEnforceRange
-        preferredHighlightBegin: (height - wheel.rowHeight) / 2
-        preferredHighlightEnd: (height + wheel.rowHeight) / 2
+        preferredHighlightBegin: (height - dial.rowHeight) / 2
+        preferredHighlightEnd: (height + dial.rowHeight) / 2
         keyNavigationEnabled: false
         flickDeceleration: 1200
         boundsBehavior: Flickable.DragAndOvershootBounds
-        onMovementEnded: wheel.turned(currentIndex)
+        onMovementEnded: dial.turned(currentIndex)
+
+        // Within the list, or that would scroll as well.
+        WheelHandler {
+            onWheel: event => dial.step(event.angleDelta.y > 0 ? -1 : 1)
+        }
 
         delegate: Text {
             id: face
 
             required property int index
-            readonly property real distance: (y + height / 2 - list.contentY - list.height / 2) / wheel.rowHeight
+            readonly property real distance: (y + height / 2 - list.contentY - list.height / 2) / dial.rowHeight
 
             width: list.width
-            height: wheel.rowHeight
-            text: wheel.texts[index] ?? index + 1
+            height: dial.rowHeight
+            text: dial.texts[index] ?? index + 1
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight
             leftPadding: 8
             rightPadding: 8
-            color: wheel.textColor
+            color: dial.textColor
             textFormat: Text.PlainText
             font.family: Theme.fontFamily
-            font.pixelSize: wheel.fontSize
-            font.bold: wheel.bold
+            font.pixelSize: dial.fontSize
+            font.bold: dial.bold
             opacity: Math.max(0.12, 1 - Math.abs(distance) * 0.3)
             scale: Math.max(0.7, 1 - Math.abs(distance) * 0.07)
 
             Accessible.role: Accessible.ListItem
             Accessible.name: text
-            Accessible.onPressAction: wheel.turnTo(index)
+            Accessible.onPressAction: dial.turnTo(index)
 
             MouseArea {
                 anchors.fill: parent
-                onClicked: wheel.turnTo(face.index)
+                onClicked: dial.turnTo(face.index)
             }
         }
-    }
-
-    WheelHandler {
-        onWheel: event => wheel.step(event.angleDelta.y > 0 ? -1 : 1)
     }
 }

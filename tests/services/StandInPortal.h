@@ -16,6 +16,9 @@ public:
     // Answers from its making on, to whoever asks on `bus`.
     explicit StandInPortal(const QDBusConnection& bus);
 
+    // Tells the bus that a setting changed.
+    void tellChange(const QString& group, const QString& key, uint value);
+
     // What Read answers; absent: it never does.
     std::optional<uint> scheme;
     int asked = 0;
@@ -23,6 +26,6 @@ public:
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)
     QDBusVariant Read(const QString& group, const QString& key);
 
-Q_SIGNALS:
-    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+private:
+    QDBusConnection bus;
 };

@@ -67,13 +67,16 @@ QString notes(Generator& generator)
                        "worth it.|Slow first hour, then hard to look away.|Seen with the whole family, and "
                        "nobody fell asleep.|Not as good as the book.|Lent to a friend, ask for it in spring.")
             .split(QLatin1Char('|'));
-    return oneOf(sentences, generator) + QLatin1Char('\n') + oneOf(sentences, generator);
+    QStringList chosen;
+    for (int line = 0; line < 3; ++line)
+        chosen << oneOf(sentences, generator);
+    return chosen.join(QLatin1Char('\n'));
 }
 
 QImage coverPicture(Generator& generator)
 {
     constexpr QSize size(160, 240);
-    constexpr int shapes = 70;
+    constexpr int shapes = 48;
     QImage picture(size, QImage::Format_RGB32);
     picture.fill(QColor::fromHsv(below(generator, 360), 120, 90));
     QPainter painter(&picture);
@@ -105,7 +108,7 @@ MovieFields sampleMovie(int number)
     movie.yearReleased = static_cast<qint16>(1930 + below(generator, 95));
     movie.runTime = static_cast<qint16>(70 + below(generator, 110));
     movie.dateWatched = QDateTime(QDate(1990, 1, 1).addDays(below(generator, 12'000)), QTime(12, 0), Qt::UTC);
-    movie.actors = people(6, generator);
+    movie.actors = people(7, generator);
     movie.directors = people(1 + below(generator, 2), generator);
     movie.producers = people(2, generator);
     movie.notes = notes(generator);

@@ -16,10 +16,12 @@ StandInPortal::StandInPortal(const QDBusConnection& bus)
     EXPECT_TRUE(this->bus.registerService("org.freedesktop.portal.Desktop"));
 }
 
-// A message of its own: a signal relayed by the library may be lost while the object is still being registered.
+// A message of its own: a signal relayed by the library may be lost while the object is still being
+// registered.
 void StandInPortal::tellChange(const QString& group, const QString& key, uint value)
 {
-    QDBusMessage change = QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
+    QDBusMessage change =
+        QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
     change << group << key << QVariant::fromValue(QDBusVariant(value));
     EXPECT_TRUE(bus.send(change));
 }

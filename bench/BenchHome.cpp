@@ -14,7 +14,7 @@ BenchHome::BenchHome()
     useDataFolder(QStringLiteral("data"));
 }
 
-QString BenchHome::useDataFolder(const QString& name) const
+QString BenchHome::useDataFolder(const QString& name)
 {
     const auto path = directory.filePath(name);
     if (!QDir().mkpath(path))

@@ -10,8 +10,7 @@ public:
     BenchHome();
 
     // The folder `name`, new or not, becomes the one that data is kept in. Answers its path.
-    QString
-    useDataFolder(const QString& name) const; // NOLINT(modernize-use-nodiscard): mostly called for its effect
+    QString useDataFolder(const QString& name);
 
 private:
     QTemporaryDir directory;

@@ -54,7 +54,7 @@ void fetchBare(benchmark::State& state, const QString& dataHome)
 
 } // namespace
 
-void addFetchMeasurements(const BenchHome& home)
+void addFetchMeasurements(BenchHome& home)
 {
     const auto dataHome = home.useDataFolder(QStringLiteral("data"));
     addMeasurement("fetch/ours", [=](benchmark::State& state) { fetchOurs(state, dataHome); });

@@ -74,7 +74,7 @@ ImportedLines linesToImport(int lineCount)
 class EmptyStore
 {
 public:
-    explicit EmptyStore(const BenchHome& home)
+    explicit EmptyStore(BenchHome& home)
         : dataHome(home.useDataFolder(QStringLiteral("import")))
     {
         makeSampleCatalogue(dataHome, 0);
@@ -89,7 +89,7 @@ private:
     QString dataHome;
 };
 
-void importOurs(benchmark::State& state, const BenchHome& home, const ImportedLines& lines)
+void importOurs(benchmark::State& state, BenchHome& home, const ImportedLines& lines)
 {
     const EmptyStore store(home);
     AppDelegate delegate;
@@ -105,7 +105,7 @@ void importOurs(benchmark::State& state, const BenchHome& home, const ImportedLi
         throw BenchError(QStringLiteral("The import left movies out"));
 }
 
-void importBare(benchmark::State& state, const BenchHome& home, const ImportedLines& lines)
+void importBare(benchmark::State& state, BenchHome& home, const ImportedLines& lines)
 {
     const EmptyStore store(home);
     BareDatabase database(store.file());
@@ -133,7 +133,7 @@ void importBare(benchmark::State& state, const BenchHome& home, const ImportedLi
 
 } // namespace
 
-void addImportMeasurements(const BenchHome& home, int lineCount)
+void addImportMeasurements(BenchHome& home, int lineCount)
 {
     const auto lines = std::make_shared<const ImportedLines>(linesToImport(lineCount));
     addMeasurement("import/ours", [=, &home](benchmark::State& state) { importOurs(state, home, *lines); });

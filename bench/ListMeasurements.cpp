@@ -11,7 +11,7 @@ namespace {
 // The movie list over the sample catalogue, loaded, with all movies in memory.
 struct ListScreen
 {
-    explicit ListScreen(const BenchHome& home)
+    explicit ListScreen(BenchHome& home)
     {
         home.useDataFolder(QStringLiteral("data"));
         screen.emplace();
@@ -31,7 +31,7 @@ const QStringList& sortNames()
 }
 
 // Every key in both directions, as the sort menu does it.
-void sortOurs(benchmark::State& state, const BenchHome& home)
+void sortOurs(benchmark::State& state, BenchHome& home)
 {
     ListScreen list(home);
     const auto sortAll = [&] {
@@ -60,7 +60,7 @@ std::vector<BareStatement> sortStatements(BareDatabase& database)
     return statements;
 }
 
-void sortBare(benchmark::State& state, const BenchHome& home)
+void sortBare(benchmark::State& state, BenchHome& home)
 {
     BareDatabase database(storeFile(home.useDataFolder(QStringLiteral("data"))));
     const auto statements = sortStatements(database);
@@ -88,7 +88,7 @@ QStringList keystrokes()
     return texts;
 }
 
-void searchOurs(benchmark::State& state, const BenchHome& home)
+void searchOurs(benchmark::State& state, BenchHome& home)
 {
     ListScreen list(home);
     auto* searchBar = list.screen->searchController->searchBar();
@@ -104,7 +104,7 @@ void searchOurs(benchmark::State& state, const BenchHome& home)
     measureWork(state, type, texts.size());
 }
 
-std::vector<QString> movieNames(const BenchHome& home)
+std::vector<QString> movieNames(BenchHome& home)
 {
     const ListScreen list(home);
     std::vector<QString> names;
@@ -113,7 +113,7 @@ std::vector<QString> movieNames(const BenchHome& home)
     return names;
 }
 
-void searchBare(benchmark::State& state, const BenchHome& home)
+void searchBare(benchmark::State& state, BenchHome& home)
 {
     const auto names = movieNames(home);
     const auto texts = keystrokes();
@@ -130,7 +130,7 @@ void searchBare(benchmark::State& state, const BenchHome& home)
 
 } // namespace
 
-void addListMeasurements(const BenchHome& home)
+void addListMeasurements(BenchHome& home)
 {
     addMeasurement("sort/ours", [&home](benchmark::State& state) { sortOurs(state, home); });
     addMeasurement("sort/reference", [&home](benchmark::State& state) { sortBare(state, home); });

@@ -16,7 +16,7 @@ struct WindowRun
 };
 
 // In the mode "empty", "start" or "list", with its data in the folder of that name.
-WindowRun runWindow(const BenchHome& home, const QString& mode, const QString& dataFolder)
+WindowRun runWindow(BenchHome& home, const QString& mode, const QString& dataFolder)
 {
     constexpr int longestRun = 120'000;
     home.useDataFolder(dataFolder);
@@ -44,7 +44,7 @@ double median(std::vector<double>& values)
     return *middle;
 }
 
-Figures compareWindows(const BenchHome& home, const QString& mode, const QString& dataFolder,
+Figures compareWindows(BenchHome& home, const QString& mode, const QString& dataFolder,
                        double WindowRun::*figure, int turns)
 {
     std::vector<double> ours;
@@ -63,7 +63,7 @@ Figures compareWindows(const BenchHome& home, const QString& mode, const QString
 
 } // namespace
 
-FiguresByRow measureWindows(const BenchHome& home)
+FiguresByRow measureWindows(BenchHome& home)
 {
     constexpr int startTurns = 15;
     constexpr int memoryTurns = 3;

@@ -6,4 +6,4 @@ class BenchHome;
 
 // Runs the program beside this one in turns with an empty window, and answers the medians of the rows "start"
 // and "memory". `home` holds catalogues of two sizes in its folders "start" and "data".
-[[nodiscard]] FiguresByRow measureWindows(const BenchHome& home);
+[[nodiscard]] FiguresByRow measureWindows(BenchHome& home);

@@ -32,7 +32,7 @@ void shareMovies(Tour& tour)
     visitor.tap(button("Share"));
     visitor.tap(choice("Save to Files"));
     visitor.expectThat("There is no file of the movies",
-                       [&] { return QFile(tour.home.path("Movies.txt")).size() > 0; });
+                       [&] { return QFile(tour.home.path("Shared.txt")).size() > 0; });
     visitor.expectNo(choice("Copy"));
 
     tour.step("A closed sheet shares nothing");

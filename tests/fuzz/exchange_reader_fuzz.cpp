@@ -1,6 +1,7 @@
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
 #include "exchange/TextFile.h"
+#include "tests/fuzz/FuzzTarget.h"
 
 #include <cstdio>
 #include <cstdlib>

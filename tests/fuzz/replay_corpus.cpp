@@ -1,9 +1,9 @@
 // Stands in for the fuzzer: feeds the files of the folder that is the one argument to the target, once each.
+#include "tests/fuzz/FuzzTarget.h"
+
 #include <QDirIterator>
 #include <QFile>
 #include <cstdio>
-
-extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size);
 
 int main(int argc, char** argv)
 {

@@ -9,11 +9,11 @@ const QString path = "/org/freedesktop/portal/desktop";
 
 } // namespace
 
-StandInPortal::StandInPortal(const QDBusConnection& bus)
-    : bus(bus)
+StandInPortal::StandInPortal(QDBusConnection connection)
+    : bus(std::move(connection))
 {
-    EXPECT_TRUE(this->bus.registerObject(path, this, QDBusConnection::ExportAllSlots));
-    EXPECT_TRUE(this->bus.registerService("org.freedesktop.portal.Desktop"));
+    EXPECT_TRUE(bus.registerObject(path, this, QDBusConnection::ExportAllSlots));
+    EXPECT_TRUE(bus.registerService("org.freedesktop.portal.Desktop"));
 }
 
 // A message of its own: a signal relayed by the library may be lost while the object is still being

@@ -14,7 +14,7 @@ class StandInPortal : public QObject, protected QDBusContext
 
 public:
     // Answers from its making on, to whoever asks on `bus`.
-    explicit StandInPortal(const QDBusConnection& bus);
+    explicit StandInPortal(QDBusConnection connection);
 
     // Tells the bus that a setting changed.
     void tellChange(const QString& group, const QString& key, uint value);

@@ -3,6 +3,7 @@
 #include "platform/toolkit/Appearance.h"
 
 #include <QImage>
+#include <QObject>
 
 // A row of the movie list: three lines beside a cover.
 struct MainListTableViewCell

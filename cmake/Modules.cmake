@@ -4,11 +4,16 @@ function(marrowvale_sources out)
     set(${out} ${found} PARENT_SCOPE)
 endfunction()
 
+# What every target of ours needs.
 function(marrowvale_common name)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
-    # Texts say their encoding; tests may write them plainly.
-    target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
     target_precompile_headers(${name} PRIVATE "${PROJECT_SOURCE_DIR}/cmake/precompiled.h")
+endfunction()
+
+# The program's texts say their encoding; tests and the tour may write theirs plainly.
+function(marrowvale_strict_texts name)
+    target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 endfunction()
 
 # marrowvale_library(store LINK foundation SQLite::SQLite3)
@@ -18,6 +23,7 @@ function(marrowvale_library name)
     add_library(${name} STATIC ${sources})
     target_link_libraries(${name} PUBLIC ${arg_LINK})
     marrowvale_common(${name})
+    marrowvale_strict_texts(${name})
 endfunction()
 
 # The same for a folder whose classes layouts name: the folder is a QML module too, so that qmllint checks every
@@ -30,6 +36,7 @@ function(marrowvale_qml_library name)
     qt_add_library(${name} STATIC)
     target_link_libraries(${name} PUBLIC ${arg_LINK})
     marrowvale_common(${name})
+    marrowvale_strict_texts(${name})
     qt_add_qml_module(${name}
         URI ${arg_URI}
         VERSION 1.0

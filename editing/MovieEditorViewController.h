@@ -1,10 +1,10 @@
 #pragma once
 
 #include "editing/MovieField.h"
-#include "editing/UIImagePickerController.h"
 #include "model/AppDelegate.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/services/UIDocumentPickerViewController.h"
+#include "platform/services/UIImagePickerController.h"
 #include "platform/toolkit/UIButton.h"
 #include "platform/toolkit/UIDatePicker.h"
 #include "platform/toolkit/UIImageView.h"

@@ -1,8 +1,8 @@
 #include "model/MarrowvaleModel.h"
 
+#include "model/Migrations.h"
 #include "model/Movies.h"
 #include "model/ReferenceRecords.h"
-#include "platform/store/StoreSchema.h"
 
 namespace {
 
@@ -71,7 +71,7 @@ NSManagedObjectModel makeModel()
         referenceList<Ratings>("rating"),
         referenceList<Actors>("name"),
     };
-    model.migrations = {{QStringLiteral("create catalogue"), createStatements(model.entities)}};
+    model.migrations = MarrowvaleModel::migrations();
     return model;
 }
 

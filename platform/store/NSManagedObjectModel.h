@@ -18,7 +18,7 @@ struct NSManagedObjectModel
     // Marks the files of this model; not 0.
     qint32 applicationId = 0;
     std::vector<NSEntityDescription> entities;
-    // From an empty file to the present form; see `createStatements` of StoreSchema.h for the first.
+    // From an empty file to the present form: the one that `createStatements` of StoreSchema.h gives.
     std::vector<NSMigration> migrations;
 
     // The version of files that went through all migrations.

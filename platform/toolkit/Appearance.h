@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QObject>
 #include <QString>
 #include <QtQmlIntegration/qqmlintegration.h>
 

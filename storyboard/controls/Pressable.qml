@@ -14,7 +14,7 @@ Item {
     readonly property string shownTitle: outlet !== null && outlet.title.length > 0 ? outlet.title : title
     readonly property bool available: outlet === null || outlet.enabled
     readonly property bool down: area.pressed && area.containsMouse
-    readonly property bool hovered: area.containsMouse
+    readonly property bool hovered: area.pointed && area.containsMouse
 
     signal triggered
     // A tap on a button that has a menu.
@@ -44,10 +44,15 @@ Item {
     MouseArea {
         id: area
 
+        // The pointer moved over it. A button that came or passed below a resting pointer isn't pointed at.
+        property bool pointed: false
+
         anchors.fill: parent
         enabled: pressable.available
         hoverEnabled: true
         cursorShape: Qt.PointingHandCursor
+        onPositionChanged: pointed = true
+        onExited: pointed = false
         onClicked: pressable.press()
     }
 }

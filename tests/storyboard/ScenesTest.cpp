@@ -1,5 +1,11 @@
 #include "tests/storyboard/SceneTest.h"
 
+// How a test's parameter is written.
+void PrintTo(const SceneDescription& scene, std::ostream* out)
+{
+    *out << scene.layout.toStdString();
+}
+
 namespace {
 
 // The screen of that class, as the first segue that leads there makes it.

@@ -1,4 +1,4 @@
-#include "editing/UIImagePickerController.h"
+#include "platform/services/UIImagePickerController.h"
 
 #include "platform/services/Device.h"
 

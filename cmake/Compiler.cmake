@@ -15,8 +15,12 @@ if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
                                     "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" "${CCACHE}")
 endif()
 
-add_compile_options(-Wall -Wextra -Wpedantic -Werror)
+add_compile_options(-pthread -Wall -Wextra -Wpedantic -Werror)
 add_compile_definitions(QT_NO_FOREACH QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(MARROWVALE_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
 if(MARROWVALE_SANITIZE)
     # The code that the sanitizers weave in makes the compiler doubt variables that are set.
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer

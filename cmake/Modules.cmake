@@ -4,16 +4,29 @@ function(marrowvale_sources out)
     set(${out} ${found} PARENT_SCOPE)
 endfunction()
 
-# What every target of ours needs.
-function(marrowvale_common name)
+# Headers are compiled once and shared, so what defines their meaning is the same for all: the marks of the libraries
+# too, which Qt would set for each target by what it links.
+add_compile_definitions(QT_CORE_LIB QT_DBUS_LIB QT_GUI_LIB QT_NETWORK_LIB QT_OPENGL_LIB QT_QMLINTEGRATION_LIB
+                        QT_QMLMODELS_LIB QT_QML_LIB QT_QUICK_LIB QT_SVG_LIB QT_TESTLIB_LIB QT_WIDGETS_LIB)
+function(marrowvale_precompiled name)
+    add_library(${name} OBJECT "${PROJECT_SOURCE_DIR}/cmake/precompiled.cpp")
+    target_link_libraries(${name} PRIVATE Qt6::Quick Qt6::Widgets)
+    target_precompile_headers(${name} PRIVATE "${PROJECT_SOURCE_DIR}/cmake/precompiled.h" ${ARGN})
+endfunction()
+marrowvale_precompiled(precompiled)
+# The program's texts say their encoding; tests and the tour may write theirs plainly.
+set(strict_texts QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+target_compile_definitions(precompiled PRIVATE ${strict_texts})
+
+function(marrowvale_target name precompiled)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
-    target_precompile_headers(${name} PRIVATE "${PROJECT_SOURCE_DIR}/cmake/precompiled.h")
+    target_precompile_headers(${name} REUSE_FROM ${precompiled})
 endfunction()
 
-# The program's texts say their encoding; tests and the tour may write theirs plainly.
-function(marrowvale_strict_texts name)
-    target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+function(marrowvale_common name)
+    marrowvale_target(${name} precompiled)
+    target_compile_definitions(${name} PRIVATE ${strict_texts})
 endfunction()
 
 # marrowvale_library(store LINK foundation SQLite::SQLite3)
@@ -23,7 +36,6 @@ function(marrowvale_library name)
     add_library(${name} STATIC ${sources})
     target_link_libraries(${name} PUBLIC ${arg_LINK})
     marrowvale_common(${name})
-    marrowvale_strict_texts(${name})
 endfunction()
 
 # The same for a folder whose classes layouts name: the folder is a QML module too, so that qmllint checks every
@@ -36,7 +48,6 @@ function(marrowvale_qml_library name)
     qt_add_library(${name} STATIC)
     target_link_libraries(${name} PUBLIC ${arg_LINK})
     marrowvale_common(${name})
-    marrowvale_strict_texts(${name})
     qt_add_qml_module(${name}
         URI ${arg_URI}
         VERSION 1.0

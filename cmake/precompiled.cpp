@@ -1,0 +1,1 @@
+// Only there to have the precompiled headers compiled with it.

@@ -5,14 +5,9 @@
 #include "browse/MovieSharing.h"
 #include "model/SharedValues.h"
 #include "platform/foundation/Console.h"
-#include "platform/foundation/DispatchQueue.h"
 #include "platform/services/Device.h"
-#include "platform/services/MFMessageComposeViewController.h"
-#include "platform/services/UIActivityViewController.h"
+#include "platform/services/TextSharing.h"
 #include "platform/services/UITraitCollection.h"
-#include "platform/toolkit/UIAlertController.h"
-
-#include <QPointer>
 
 namespace {
 
@@ -56,23 +51,6 @@ std::vector<NSSortDescriptor> sortDescriptors(const std::optional<QString>& sort
         descriptors.push_back({QStringLiteral("movieName"), ascending});
     }
     return descriptors;
-}
-
-MovieFields fieldsOf(const Movies& movie)
-{
-    const auto text = [](const std::optional<QString>& value) { return value.value_or(QString()); };
-    return {.movieName = text(movie.movieName()),
-            .provider = text(movie.provider()),
-            .genre = text(movie.genre()),
-            .rating = text(movie.rating()),
-            .yearReleased = movie.yearReleased(),
-            .runTime = movie.runTime(),
-            .dateWatched = movie.dateWatched(),
-            .actors = text(movie.actors()),
-            .directors = text(movie.directors()),
-            .producers = text(movie.producers()),
-            .notes = text(movie.notes()),
-            .frontCover = movie.frontCover()};
 }
 
 bool inverted(const std::optional<bool>& direction)
@@ -248,15 +226,5 @@ void MainListTableViewController::didSelectRowAt(const NSIndexPath& indexPath)
 
 void MainListTableViewController::shareButtonClicked()
 {
-    if (!MFMessageComposeViewController::canSendText()) {
-        DispatchQueue::main().async([screen = QPointer(this)] {
-            if (screen)
-                screen->present(UIAlertController::withOk(
-                    QStringLiteral("Can't Send Text Message"),
-                    QStringLiteral("Your device is not able to send text messages.")));
-        });
-        return;
-    }
-    std::vector<ActivityItem> items{sharedText(shownList())};
-    present(std::make_unique<UIActivityViewController>(std::move(items)));
+    shareWhereTextsCanBeSent(*this, [this] { return std::vector<ActivityItem>{sharedText(shownList())}; });
 }

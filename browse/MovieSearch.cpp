@@ -1,19 +1,29 @@
 #include "browse/MovieSearch.h"
 
+#include "platform/foundation/LowerCaseSearch.h"
+
 namespace {
 
-using SearchedField = std::optional<QString> (*)(const Movies&);
+using Matches = bool (*)(const Movies&, const LowerCaseSearch&);
 
-SearchedField searchedField(const QString& sortName)
+template <Movies::Attribute attribute>
+bool textMatches(const Movies& movie, const LowerCaseSearch& search)
+{
+    return movie.textMatches(attribute, search);
+}
+
+Matches matchesBy(const QString& sortName)
 {
     if (sortName == QStringLiteral("MovieName"))
-        return [](const Movies& movie) { return movie.movieName(); };
+        return textMatches<Movies::MovieName>;
     if (sortName == QStringLiteral("Genre"))
-        return [](const Movies& movie) { return movie.genre(); };
+        return textMatches<Movies::Genre>;
     if (sortName == QStringLiteral("Rating"))
-        return [](const Movies& movie) { return movie.rating(); };
+        return textMatches<Movies::Rating>;
     if (sortName == QStringLiteral("Year"))
-        return [](const Movies& movie) { return std::optional(QString::number(movie.yearReleased())); };
+        return [](const Movies& movie, const LowerCaseSearch& search) {
+            return search.isIn(QString::number(movie.yearReleased()));
+        };
     return nullptr;
 }
 
@@ -23,16 +33,12 @@ std::optional<std::vector<std::shared_ptr<Movies>>>
 moviesMatching(const QString& searchText, const QString& sortName,
                const std::vector<std::shared_ptr<Movies>>& movies)
 {
-    const SearchedField field = searchedField(sortName);
-    if (field == nullptr)
+    const Matches matches = matchesBy(sortName);
+    if (matches == nullptr)
         return std::nullopt;
-    const QString wanted = searchText.toLower();
+    const LowerCaseSearch search(searchText);
     std::vector<std::shared_ptr<Movies>> matching;
-    for (const auto& movie : movies) {
-        std::optional<QString> text = field(*movie);
-        // Lower-casing a temporary happens in place.
-        if (text && std::move(*text).toLower().contains(wanted))
-            matching.push_back(movie);
-    }
+    std::copy_if(movies.begin(), movies.end(), std::back_inserter(matching),
+                 [&](const auto& movie) { return matches(*movie, search); });
     return matching;
 }

@@ -20,6 +20,8 @@ target_compile_definitions(precompiled PRIVATE ${strict_texts})
 
 function(marrowvale_target name precompiled)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    # What a new file declares would not be seen until a build from scratch.
+    file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/timestamp")
     target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
     target_precompile_headers(${name} REUSE_FROM ${precompiled})
 endfunction()

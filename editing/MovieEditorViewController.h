@@ -37,6 +37,8 @@ class MovieEditorViewController : public UIViewController,
     Q_PROPERTY(UITextView* DirectorsTextView MEMBER DirectorsTextView CONSTANT FINAL)
     Q_PROPERTY(UITextView* ProducersTextView MEMBER ProducersTextView CONSTANT FINAL)
     Q_PROPERTY(UITextView* NotesTextView MEMBER NotesTextView CONSTANT FINAL)
+    Q_PROPERTY(UITextField* providerField MEMBER providerField CONSTANT FINAL)
+    Q_PROPERTY(UIImageView* coverView MEMBER coverView CONSTANT FINAL)
     Q_PROPERTY(UIView* ContentView MEMBER ContentView CONSTANT FINAL)
     Q_PROPERTY(UIButton* PasteButton MEMBER PasteButton CONSTANT FINAL)
     Q_PROPERTY(UIButton* CameraButton MEMBER CameraButton CONSTANT FINAL)

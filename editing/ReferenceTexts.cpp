@@ -1,25 +1,17 @@
 #include "editing/ReferenceTexts.h"
 
-#include "platform/foundation/Console.h"
-#include "platform/store/NSManagedObjectContext.h"
+#include "editing/ReferenceFetch.h"
 
 QStringList referenceTexts(NSManagedObjectContext& context, const QString& entityName,
                            const QString& attribute)
 {
     NSFetchRequest request(entityName);
     request.sortDescriptors = {{attribute, true}};
-    request.setReturnsObjectsAsFaults(false);
-    const auto records = context.fetch(request);
-    if (!records) {
-        console(records.error().localizedDescription);
-        return {};
-    }
     QStringList texts;
-    for (const auto& record : records.value()) {
-        const AttributeValue value = record->valueForKey(attribute);
-        const auto* text = std::get_if<QString>(&value);
+    for (const auto& record : fetchedReferences(context, request)) {
+        const std::optional<QString> text = record->value();
         // Equal ones are neighbours.
-        if (text != nullptr && (texts.isEmpty() || texts.last() != *text))
+        if (text && (texts.isEmpty() || texts.last() != *text))
             texts.append(*text);
     }
     return texts;

@@ -22,6 +22,10 @@ struct MovieFields
     std::optional<QByteArray> frontCover;
 };
 
+class Movies;
+// Reads the cover from the store.
+[[nodiscard]] MovieFields fieldsOf(const Movies& movie);
+
 // What one screen leaves for the next: it lasts as long as the process and is never stored. A screen writes
 // before it opens another, which reads when it loads.
 struct SharedValues
@@ -33,6 +37,10 @@ struct SharedValues
     // The date-watched group last chosen; months count from 1.
     std::optional<int> SelectedYear;
     std::optional<int> SelectedMonth;
+    // The values last chosen in the reference lists; empty until then.
+    QString selectedGenre;
+    QString selectedProvider;
+    QString selectedRating;
     // The direction last chosen on a summary or on one of its lists.
     bool GlobalSortAsc = true;
 };

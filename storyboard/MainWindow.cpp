@@ -33,3 +33,13 @@ MainWindow::~MainWindow()
     // Layouts read their screens, which live on the stage: the root layout goes first.
     delete rootObject();
 }
+
+UIWindowScene::ActivationState MainWindow::activationState() const
+{
+    return isActive() ? ActivationState::ForegroundActive : ActivationState::ForegroundInactive;
+}
+
+UINavigationController& MainWindow::navigationController()
+{
+    return *sceneStage->navigation();
+}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/toolkit/UIWindowScene.h"
+
 #include <QQuickView>
 #include <memory>
 
@@ -7,7 +9,7 @@ class SceneStage;
 
 // The one window: a stage that starts at the home menu, light or dark as the device says. Needs a current
 // Device and an AppDelegate, both of which must outlive it.
-class MainWindow : public QQuickView
+class MainWindow : public QQuickView, public UIWindowScene
 {
     Q_OBJECT
 
@@ -16,6 +18,9 @@ public:
     ~MainWindow() override;
 
     [[nodiscard]] SceneStage& stage() { return *sceneStage; }
+
+    [[nodiscard]] ActivationState activationState() const override;
+    [[nodiscard]] UINavigationController& navigationController() override;
 
 private:
     std::unique_ptr<SceneStage> sceneStage;

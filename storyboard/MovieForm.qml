@@ -2,29 +2,15 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Marrowvale.Controls
-import Marrowvale.Toolkit
+import Marrowvale.Editing
 
 // The form of a movie. Its ground is the light one that screens fix, in either style.
 Page {
     id: form
 
-    required property UITextField movieName
-    required property UITextField yearReleased
-    required property UITextField runTime
-    required property UITextField genre
-    required property UITextField rating
-    required property UITextField provider
-    required property UITextField dateWatched
-    required property UITextView actors
-    required property UITextView directors
-    required property UITextView producers
-    required property UITextView notes
-    required property UIImageView cover
-    required property UIButton pasteButton
-    required property UIButton cameraButton
-    required property UIButton folderButton
-    required property UIButton removeButton
-    required property UIView contentView
+    required property MovieEditorViewController editor
+    // What a double tap on the cover does; empty: nothing.
+    property string coverAction
 
     component FormField: Field {
         shades: Theme.paper
@@ -53,7 +39,7 @@ Page {
         width: parent.width
         height: fields.height + 2 * Theme.margin
         radius: 16
-        outlet: form.contentView
+        outlet: form.editor.ContentView
 
         Column {
             id: fields
@@ -75,7 +61,8 @@ Page {
                     width: 136
                     height: 136
                     label: "Front Cover"
-                    outlet: form.cover
+                    outlet: form.editor.coverView
+                    action: form.coverAction
                     shades: Theme.paper
                 }
 
@@ -87,22 +74,22 @@ Page {
                     spacing: 8
 
                     CoverButton {
-                        outlet: form.pasteButton
+                        outlet: form.editor.PasteButton
                         action: "PasteImage"
                     }
 
                     CoverButton {
-                        outlet: form.cameraButton
+                        outlet: form.editor.CameraButton
                         action: "OpenFrontCamera"
                     }
 
                     CoverButton {
-                        outlet: form.folderButton
+                        outlet: form.editor.FolderButton
                         action: "AttachFrontImage"
                     }
 
                     CoverButton {
-                        outlet: form.removeButton
+                        outlet: form.editor.RemoveButton
                         action: "RemoveFrontImage"
                     }
                 }
@@ -111,7 +98,7 @@ Page {
             FormField {
                 width: parent.width
                 label: "Movie Name"
-                outlet: form.movieName
+                outlet: form.editor.MovieNameTextField
                 mandatory: true
             }
 
@@ -121,7 +108,7 @@ Page {
                 FormField {
                     width: fields.half
                     label: "Year Released"
-                    outlet: form.yearReleased
+                    outlet: form.editor.YearReleasedTextField
                     mandatory: true
                     digits: true
                 }
@@ -129,7 +116,7 @@ Page {
                 FormField {
                     width: fields.half
                     label: "Run Time"
-                    outlet: form.runTime
+                    outlet: form.editor.RunTimeTextField
                     digits: true
                 }
             }
@@ -140,14 +127,14 @@ Page {
                 FormField {
                     width: fields.half
                     label: "Genre"
-                    outlet: form.genre
+                    outlet: form.editor.GenreTextField
                     mandatory: true
                 }
 
                 FormField {
                     width: fields.half
                     label: "Rating"
-                    outlet: form.rating
+                    outlet: form.editor.RatingTextField
                 }
             }
 
@@ -159,34 +146,34 @@ Page {
                 FormField {
                     width: form.wide ? fields.half : fields.width
                     label: "Date Watched"
-                    outlet: form.dateWatched
+                    outlet: form.editor.DateWatchedTextField
                     beginAction: "DateWatchedEntered"
                 }
 
                 FormField {
                     width: form.wide ? fields.half : fields.width
                     label: "Provider"
-                    outlet: form.provider
+                    outlet: form.editor.providerField
                 }
 
                 FormArea {
                     label: "Actors"
-                    outlet: form.actors
+                    outlet: form.editor.ActorsTextView
                 }
 
                 FormArea {
                     label: "Directors"
-                    outlet: form.directors
+                    outlet: form.editor.DirectorsTextView
                 }
 
                 FormArea {
                     label: "Producers"
-                    outlet: form.producers
+                    outlet: form.editor.ProducersTextView
                 }
 
                 FormArea {
                     label: "Notes"
-                    outlet: form.notes
+                    outlet: form.editor.NotesTextView
                 }
             }
         }

@@ -1,9 +1,16 @@
 #include "storyboard/SceneTable.h"
 
+#include "browse/DefaultsViewController.h"
 #include "browse/MainListTableViewController.h"
 #include "browse/PlaceholderViewController.h"
 #include "browse/ViewController.h"
 #include "editing/AddMovieViewController.h"
+#include "editing/EditMovieViewController.h"
+#include "editing/ReferenceAddScreens.h"
+#include "editing/ReferenceEditScreens.h"
+#include "editing/ReferenceListScreens.h"
+#include "editing/ReferenceListViewController.h"
+#include "editing/ZoomViewController.h"
 #include "exchange/ImportExportViewController.h"
 #include "exchange/ImportViewController.h"
 
@@ -46,12 +53,27 @@ SegueDescription unwind(const QString& identifier, const QString& action)
 
 const std::vector<SceneDescription>& sceneDescriptions()
 {
+    static const QString referenceList = QStringLiteral("ReferenceList");
+    static const QString referenceValue = QStringLiteral("ReferenceValue");
     static const std::vector<SceneDescription> table{
         scene<ViewController>(QStringLiteral("Home")),
         scene<MainListTableViewController>(QStringLiteral("MovieList")),
         scene<AddMovieViewController>(QStringLiteral("AddMovie")),
+        scene<EditMovieViewController>(QStringLiteral("EditMovie")),
+        scene<ZoomViewController>(QStringLiteral("Zoom")),
         scene<ImportExportViewController>(QStringLiteral("ImportExport")),
         scene<ImportViewController>(QStringLiteral("Import")),
+        scene<DefaultsViewController>(QStringLiteral("Settings")),
+        scene<ReferenceListViewController>(QStringLiteral("ReferenceLists")),
+        scene<GenreReferenceListTableViewController>(referenceList),
+        scene<ProviderReferenceListTableViewController>(referenceList),
+        scene<RatingReferenceListTableViewController>(referenceList),
+        scene<AddGenreViewController>(referenceValue),
+        scene<AddProviderViewController>(referenceValue),
+        scene<AddRatingViewController>(referenceValue),
+        scene<EditGenreViewController>(referenceValue),
+        scene<EditProviderViewController>(referenceValue),
+        scene<EditRatingViewController>(referenceValue),
         scene<PlaceholderViewController>(QStringLiteral("Placeholder")),
     };
     return table;
@@ -61,6 +83,12 @@ const std::vector<SegueDescription>& segueDescriptions()
 {
     static const QString toMenu = QStringLiteral("unwindToMenuWithSegue");
     static const QString toList = QStringLiteral("unwindToListWithSegue");
+    static const QString add = QStringLiteral("AddReference");
+    static const QString edit = QStringLiteral("EditReference");
+    static const QString toGenres = QStringLiteral("unwindToGenreTableView");
+    static const QString toProviders = QStringLiteral("unwindToProviderTableView");
+    static const QString toRatings = QStringLiteral("unwindToRatingTableView");
+    static const QString withSegue = QStringLiteral("WithSegue");
     static const std::vector<SegueDescription> table{
         show<ViewController, MainListTableViewController>(QStringLiteral("MovieList")),
         show<ViewController, AddMovieViewController>(QStringLiteral("AddMovie")),
@@ -68,26 +96,39 @@ const std::vector<SegueDescription>& segueDescriptions()
             QStringLiteral("TabBarController"), QStringLiteral("Group By"),
             QStringLiteral("Your movies grouped and counted by genre, year released, date "
                            "watched, rating and provider will be here.")),
-        announce<ViewController>(
-            QStringLiteral("Settings"), QStringLiteral("Settings"),
-            QStringLiteral("The default watch date and the style of the date picker will be "
-                           "chosen here.")),
+        show<ViewController, DefaultsViewController>(QStringLiteral("Settings")),
         announce<ViewController>(QStringLiteral("Print"), QStringLiteral("Print"),
                                  QStringLiteral("The movie list will be printed from here.")),
-        announce<ViewController>(QStringLiteral("ReferenceLists"), QStringLiteral("Reference Lists"),
-                                 QStringLiteral("Your genres, providers and ratings will be kept here.")),
+        show<ViewController, ReferenceListViewController>(QStringLiteral("ReferenceLists")),
         show<ViewController, ImportExportViewController>(QStringLiteral("ImportExport")),
         announce<ViewController>(QStringLiteral("RateShare"), QStringLiteral("Rate/Share"),
                                  QStringLiteral("Reviews, sharing and feedback will be here.")),
         show<MainListTableViewController, AddMovieViewController>(QStringLiteral("AddMovie")),
-        announce<MainListTableViewController>(QStringLiteral("EditMovie"), QStringLiteral("Update Movie"),
-                                              QStringLiteral("The chosen movie will be changed here.")),
+        show<MainListTableViewController, EditMovieViewController>(QStringLiteral("EditMovie")),
+        show<EditMovieViewController, ZoomViewController>(QStringLiteral("Zoom")),
+        unwind<EditMovieViewController>(QStringLiteral("unwindToList"), toList),
         unwind<AddMovieViewController>(QStringLiteral("unwindToList"), toList),
         unwind<AddMovieViewController>(QStringLiteral("unwindToMenu"), toMenu),
         show<ImportExportViewController, ImportViewController>(QStringLiteral("Import")),
         announce<ImportExportViewController>(QStringLiteral("Export"), QStringLiteral("Export Movies"),
                                              QStringLiteral("The exchange file will be made here.")),
         unwind<ImportViewController>(QStringLiteral("unwindToMenu"), toMenu),
+        show<ReferenceListViewController, GenreReferenceListTableViewController>(QStringLiteral("Genres")),
+        show<ReferenceListViewController, ProviderReferenceListTableViewController>(
+            QStringLiteral("Providers")),
+        show<ReferenceListViewController, RatingReferenceListTableViewController>(QStringLiteral("Ratings")),
+        show<GenreReferenceListTableViewController, AddGenreViewController>(add),
+        show<GenreReferenceListTableViewController, EditGenreViewController>(edit),
+        unwind<AddGenreViewController>(toGenres, toGenres + withSegue),
+        unwind<EditGenreViewController>(toGenres, toGenres + withSegue),
+        show<ProviderReferenceListTableViewController, AddProviderViewController>(add),
+        show<ProviderReferenceListTableViewController, EditProviderViewController>(edit),
+        unwind<AddProviderViewController>(toProviders, toProviders + withSegue),
+        unwind<EditProviderViewController>(toProviders, toProviders + withSegue),
+        show<RatingReferenceListTableViewController, AddRatingViewController>(add),
+        show<RatingReferenceListTableViewController, EditRatingViewController>(edit),
+        unwind<AddRatingViewController>(toRatings, toRatings + withSegue),
+        unwind<EditRatingViewController>(toRatings, toRatings + withSegue),
         unwind<PlaceholderViewController>(QStringLiteral("unwindToMenu"), toMenu),
     };
     return table;

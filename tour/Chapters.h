@@ -15,7 +15,13 @@ void addMovie(Tour& tour);
 void importMovies(Tour& tour, const QString& exchangeFile);
 // The four orders both ways, the search, deleting.
 void browseMovies(Tour& tour);
+// A movie found by the search, its cover, and a change of it.
+void editMovie(Tour& tour);
 // The share sheet, without and with text messages.
 void shareMovies(Tour& tour);
+// The default date, picked in each style that the settings offer.
+void changeSettings(Tour& tour);
+// A genre added, renamed and deleted; the ratings and the providers.
+void keepReferenceLists(Tour& tour);
 // The remaining ways out of the menu and of the list, and back by button and keyboard.
 void lookAround(Tour& tour);

@@ -31,6 +31,10 @@ inline Control field(const QString& name)
 {
     return {QAccessible::EditableText, name};
 }
+inline Control checkBox(const QString& name)
+{
+    return {QAccessible::CheckBox, name};
+}
 inline Control heading(const QString& name)
 {
     return {QAccessible::Heading, name};

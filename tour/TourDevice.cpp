@@ -35,6 +35,11 @@ struct TourDevice::ToldInterfaceStyle : InterfaceStyle
     bool dark = false;
 };
 
+struct TourDevice::DeafAddressOpener : AddressOpener
+{
+    bool open(const QUrl& /*address*/) override { return true; }
+};
+
 namespace {
 
 template <typename Told, typename Service>
@@ -54,6 +59,7 @@ TourDevice::TourDevice(const QString& folder)
     , interfaceStyle(replaceService<ToldInterfaceStyle>(device->interfaceStyle))
 {
     documents->folder = folder;
+    replaceService<DeafAddressOpener>(device->addressOpener);
 }
 
 void TourDevice::setPickedFile(const QString& path)

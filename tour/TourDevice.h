@@ -3,7 +3,8 @@
 #include "platform/services/Device.h"
 
 // The device that the program really runs on, but for what would lead out of the tour: the file dialog picks
-// by itself, and the tour decides on light or dark and on whether there are text messages.
+// by itself, addresses lead nowhere, and the tour decides on light or dark and on whether there are text
+// messages.
 class TourDevice
 {
 public:
@@ -20,6 +21,7 @@ private:
     struct SelfAnsweringDocuments;
     struct ToldTextMessages;
     struct ToldInterfaceStyle;
+    struct DeafAddressOpener;
 
     std::unique_ptr<Device> device = makeLinuxDevice();
     SelfAnsweringDocuments* documents;

@@ -17,6 +17,7 @@ QString describe(const Control& control)
         {QAccessible::Button, "button"},      {QAccessible::MenuItem, "choice"},
         {QAccessible::EditableText, "field"}, {QAccessible::Heading, "heading"},
         {QAccessible::StaticText, "text"},    {QAccessible::ListItem, "row or value"},
+        {QAccessible::CheckBox, "switch"},
     };
     return kinds.value(control.role) + " \"" + control.name + "\"";
 }

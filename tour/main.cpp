@@ -32,6 +32,9 @@ void play(const QString& outputFolder, const QString& exchangeFile, const TourHo
         importMovies(tour, exchangeFile);
         browseMovies(tour);
         shareMovies(tour);
+        editMovie(tour);
+        changeSettings(tour);
+        keepReferenceLists(tour);
         lookAround(tour);
         tour.step("That was the tour");
     } catch (const TourError&) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "platform/services/AddressOpener.h"
 #include "platform/services/Camera.h"
 #include "platform/services/Documents.h"
 #include "platform/services/InterfaceStyle.h"
 #include "platform/services/Pasteboard.h"
+#include "platform/services/ReviewPrompt.h"
 #include "platform/services/TextMessages.h"
 
 #include <memory>
@@ -28,6 +30,8 @@ struct Device
     std::unique_ptr<Pasteboard> pasteboard;
     std::unique_ptr<Camera> camera;
     std::unique_ptr<InterfaceStyle> interfaceStyle;
+    std::unique_ptr<AddressOpener> addressOpener;
+    std::unique_ptr<ReviewPrompt> reviewPrompt;
 };
 
 // The desktop or phone that the program runs on. Needs a QApplication.

@@ -1,6 +1,8 @@
 #include "platform/services/Device.h"
+#include "platform/services/LinuxAddressOpener.h"
 #include "platform/services/LinuxDocuments.h"
 #include "platform/services/LinuxPasteboard.h"
+#include "platform/services/LinuxReviewPrompt.h"
 #include "platform/services/LinuxTextMessages.h"
 #include "platform/services/NoCamera.h"
 #include "platform/services/PortalInterfaceStyle.h"
@@ -28,5 +30,7 @@ std::unique_ptr<Device> makeLinuxDevice()
     device->pasteboard = std::make_unique<LinuxPasteboard>();
     device->camera = std::make_unique<NoCamera>();
     device->interfaceStyle = std::make_unique<PortalInterfaceStyle>(sessionBusIfAny());
+    device->addressOpener = std::make_unique<LinuxAddressOpener>();
+    device->reviewPrompt = std::make_unique<LinuxReviewPrompt>();
     return device;
 }

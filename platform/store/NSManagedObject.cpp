@@ -73,6 +73,11 @@ std::optional<QString> NSManagedObject::text(int index) const
     return values.text(index);
 }
 
+bool NSManagedObject::textMatches(int index, const LowerCaseSearch& search) const
+{
+    return values.textMatches(index, search);
+}
+
 qint16 NSManagedObject::int16(int index) const
 {
     return values.int16(index).value_or(0);

@@ -28,6 +28,8 @@ public:
     // 0. A binary value that is not waiting to be saved is read from the store each time, and not kept; one
     // that cannot be read counts as absent.
     [[nodiscard]] std::optional<QString> text(int index) const;
+    // Whether there is a text and the one looked for is in it; spares the copy.
+    [[nodiscard]] bool textMatches(int index, const LowerCaseSearch& search) const;
     [[nodiscard]] qint16 int16(int index) const;
     [[nodiscard]] std::optional<QDateTime> date(int index) const;
     [[nodiscard]] std::optional<QByteArray> binary(int index) const;

@@ -78,6 +78,12 @@ std::optional<QString> PackedRecord::text(int index) const
     return raw ? std::optional(QString::fromUtf8(*raw)) : std::nullopt;
 }
 
+std::optional<QUtf8StringView> PackedRecord::utf8(int index) const
+{
+    const auto raw = bytes(index);
+    return raw ? std::optional(QUtf8StringView(raw->data(), raw->size())) : std::nullopt;
+}
+
 std::optional<qint16> PackedRecord::int16(int index) const
 {
     return number<qint16>(index);

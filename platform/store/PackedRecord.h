@@ -3,6 +3,7 @@
 #include <QByteArrayView>
 #include <QDateTime>
 #include <QString>
+#include <QUtf8StringView>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -38,6 +39,8 @@ public:
     explicit operator bool() const { return block != nullptr; }
 
     [[nodiscard]] std::optional<QString> text(int index) const;
+    // The same as it lies in the block, for as long as the record stays.
+    [[nodiscard]] std::optional<QUtf8StringView> utf8(int index) const;
     [[nodiscard]] std::optional<qint16> int16(int index) const;
     [[nodiscard]] std::optional<QDateTime> date(int index) const;
 

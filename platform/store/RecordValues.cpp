@@ -34,6 +34,16 @@ std::optional<QString> RecordValues::text(int index) const
     return unpacked ? unpackedValue<QString>(index) : packed.text(index);
 }
 
+bool RecordValues::textMatches(int index, const LowerCaseSearch& search) const
+{
+    if (unpacked) {
+        const auto text = unpackedValue<QString>(index);
+        return text && search.isIn(*text);
+    }
+    const auto text = packed.utf8(index);
+    return text && search.isIn(*text);
+}
+
 std::optional<qint16> RecordValues::int16(int index) const
 {
     return unpacked ? unpackedValue<qint16>(index) : packed.int16(index);

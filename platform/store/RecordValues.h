@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/LowerCaseSearch.h"
 #include "platform/store/NSEntityDescription.h"
 #include "platform/store/PackedRecord.h"
 
@@ -14,6 +15,7 @@ public:
     void load(PackedRecord record) { packed = std::move(record); }
 
     [[nodiscard]] std::optional<QString> text(int index) const;
+    [[nodiscard]] bool textMatches(int index, const LowerCaseSearch& search) const;
     [[nodiscard]] std::optional<qint16> int16(int index) const;
     [[nodiscard]] std::optional<QDateTime> date(int index) const;
     [[nodiscard]] std::optional<QByteArray> changedBinary(int index) const;

@@ -10,6 +10,7 @@ Item {
     property string beginAction
     property bool mandatory: false
     property bool digits: false
+    property bool captionHidden: false
     property Shades shades: Theme.shades
 
     implicitHeight: box.implicitHeight
@@ -22,6 +23,7 @@ Item {
         label: field.label
         outlet: field.outlet
         mandatory: field.mandatory
+        captionHidden: field.captionHidden
         edited: field.outlet.editing
         shades: field.shades
 

@@ -9,6 +9,10 @@ Rectangle {
     required property UIImageView outlet
     required property string label
     property Shades shades: Theme.shades
+    // What a double tap does; empty: nothing.
+    property string action
+
+    signal triggered
 
     radius: outlet.layer.cornerRadius
     color: shades.field
@@ -33,5 +37,9 @@ Rectangle {
         image: view.outlet.image // qmllint disable
         radius: Math.max(0, view.radius - view.border.width)
         fillMode: view.outlet.contentMode === UIImageView.ScaleToFill ? ImageItem.Stretch : ImageItem.Fit
+    }
+
+    TapHandler {
+        onDoubleTapped: view.triggered()
     }
 }

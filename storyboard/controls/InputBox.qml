@@ -11,15 +11,18 @@ Item {
     property bool mandatory: false
     property bool edited: false
     property Shades shades: Theme.shades
+    // The label is told to assistive technology alone: another one stands beside the box.
+    property bool captionHidden: false
     property alias frameHeight: frame.height
     default property alias content: frame.data
 
-    implicitHeight: caption.height + 4 + frame.height
+    implicitHeight: frame.y + frame.height
     height: implicitHeight
 
     Label {
         id: caption
 
+        visible: !box.captionHidden
         text: box.label
         color: box.mandatory ? box.shades.danger : box.shades.secondary
         font.pixelSize: Theme.small
@@ -29,8 +32,7 @@ Item {
     Rectangle {
         id: frame
 
-        anchors.top: caption.bottom
-        anchors.topMargin: 4
+        y: box.captionHidden ? 0 : caption.height + 4
         width: parent.width
         height: Theme.target
         radius: box.outlet.layer.cornerRadius

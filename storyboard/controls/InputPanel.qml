@@ -28,6 +28,12 @@ FocusScope {
             panel.shownField = panel.field;
     }
 
+    // Opened again it starts afresh: the same picker may prefer another style by then.
+    function clear() {
+        panel.focus = false;
+        panel.shownField = null;
+    }
+
     function load() {
         const values = {
             picker: panel.shownView
@@ -43,7 +49,7 @@ FocusScope {
     onShownViewChanged: load()
     onFocusChanged: FirstResponder.panelFocused = focus
     onOpennessChanged: if (openness === 0)
-        focus = false
+        clear()
 
     height: openness * content.height
     visible: openness > 0

@@ -10,6 +10,8 @@ Rectangle {
     required property UIToolbar toolbar
     readonly property var items: toolbar?.items ?? []
     readonly property color tint: toolbar !== null && toolbar.tintColor.valid ? toolbar.tintColor : Theme.shades.accent
+    // A light tint is hard to read on a light bar: there it is the buttons' ground.
+    readonly property bool tintBelow: toolbar !== null && !toolbar.blackStyle && toolbar.tintColor.valid
     // Flexible spaces share what the buttons leave.
     readonly property int spaces: items.filter(item => item.flexibleSpace).length
     readonly property real taken: {
@@ -42,7 +44,8 @@ Rectangle {
                 item: bar.items[index] ?? null
                 spaceWidth: (row.width - bar.taken) / bar.spaces
                 prominent: index === bar.items.length - 1
-                tint: bar.tint
+                tint: bar.tintBelow ? Theme.night.accentText : bar.tint
+                ground: bar.tintBelow ? bar.tint : "transparent"
             }
         }
     }

@@ -1,5 +1,6 @@
 #include "platform/foundation/Text.h"
 #include "platform/foundation/Console.h"
+#include "platform/foundation/LowerCaseSearch.h"
 #include "platform/foundation/Result.h"
 
 TEST(Text, TrimmingTakesBlanksAndTabsAtTheEndsOnly)
@@ -56,4 +57,24 @@ TEST(ConsoleDeathTest, FatalErrorTellsWhyAndAborts)
 {
     EXPECT_EXIT(fatalError(QStringLiteral("caf\u00e9")), testing::KilledBySignal(SIGABRT),
                 "(^|\n)Fatal error: caf\u00e9\n$");
+}
+
+TEST(LowerCaseSearch, FindsTheSameInUtf8AsInLowerCasedStrings)
+{
+    const QStringList texts{"Midnight in Paris", "MIDNIGHT", "",          "Amélie",    "AMÉLIE", "10 Things",
+                            "\u212Aelvin",       "İstanbul", "Ωmega Man", "naïve ÀÉÎ", "[A_Z]"};
+    const QStringList searches{"",  "night", "NIGHT", "amélie", "É",     "\u212A", "k",
+                               "i", "İ",     "ω",     "à",      "[a_z]", "{"};
+    int found = 0;
+    for (const QString& wanted : searches) {
+        const LowerCaseSearch search(wanted);
+        for (const QString& text : texts) {
+            const bool expected = text.toLower().contains(wanted.toLower());
+            const QByteArray utf8 = text.toUtf8();
+            EXPECT_EQ(search.isIn(text), expected) << qPrintable(wanted + " in " + text);
+            EXPECT_EQ(search.isIn(QUtf8StringView(utf8)), expected) << qPrintable(wanted + " in " + text);
+            found += expected ? 1 : 0;
+        }
+    }
+    EXPECT_GT(found, static_cast<int>(texts.size()) + 10);
 }

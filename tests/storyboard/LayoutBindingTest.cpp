@@ -67,7 +67,7 @@ TEST_F(LayoutDeathTest, AMissingOutletEndsTheProgramAndIsNamed)
 {
     EmptiedPlaceholder emptied(qEnvironmentVariable("HOME") + "/Emptied.qml");
     window->engine()->addUrlInterceptor(&emptied);
-    EXPECT_DEATH(follow("Settings"),
+    EXPECT_DEATH(follow("RateShare"),
                  "Fatal error: The layout of PlaceholderViewController lacks: outlet MessageLabel");
     window->engine()->removeUrlInterceptor(&emptied);
 }

@@ -19,6 +19,8 @@ RecordingDevice::RecordingDevice()
     , pasteboardTwin(put<RecordingPasteboard>(pasteboard))
     , cameraTwin(put<RecordingCamera>(camera))
     , interfaceStyleTwin(put<RecordingInterfaceStyle>(interfaceStyle))
+    , addressOpenerTwin(put<RecordingAddressOpener>(addressOpener))
+    , reviewPromptTwin(put<RecordingReviewPrompt>(reviewPrompt))
 {
 }
 

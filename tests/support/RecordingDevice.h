@@ -64,9 +64,28 @@ struct RecordingDevice : Device
         bool dark = false;
     };
 
+    struct RecordingAddressOpener : AddressOpener
+    {
+        bool open(const QUrl& address) override
+        {
+            opened.append(address);
+            return can;
+        }
+        QList<QUrl> opened;
+        bool can = true;
+    };
+    struct RecordingReviewPrompt : ReviewPrompt
+    {
+        void ask(UIWindowScene* scene) override { asked.push_back(scene); }
+        // Where each question was to be asked; null: anywhere.
+        std::vector<UIWindowScene*> asked;
+    };
+
     RecordingTextMessages* textMessagesTwin;
     RecordingDocuments* documentsTwin;
     RecordingPasteboard* pasteboardTwin;
     RecordingCamera* cameraTwin;
     RecordingInterfaceStyle* interfaceStyleTwin;
+    RecordingAddressOpener* addressOpenerTwin;
+    RecordingReviewPrompt* reviewPromptTwin;
 };

@@ -1,0 +1,22 @@
+#include "platform/services/TextSharing.h"
+
+#include "platform/foundation/DispatchQueue.h"
+#include "platform/services/MFMessageComposeViewController.h"
+#include "platform/toolkit/UIAlertController.h"
+
+#include <QPointer>
+
+void shareWhereTextsCanBeSent(UIViewController& screen,
+                              const std::function<std::vector<ActivityItem>()>& makeItems)
+{
+    if (MFMessageComposeViewController::canSendText()) {
+        screen.present(std::make_unique<UIActivityViewController>(makeItems()));
+        return;
+    }
+    DispatchQueue::main().async([shown = QPointer(&screen)] {
+        if (shown)
+            shown->present(
+                UIAlertController::withOk(QStringLiteral("Can't Send Text Message"),
+                                          QStringLiteral("Your device is not able to send text messages.")));
+    });
+}

@@ -1,0 +1,121 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Marrowvale.Controls
+import Marrowvale.Editing
+import Marrowvale.Toolkit
+
+// Two fingers or the mouse wheel scale, one finger or the mouse moves; plus, minus and the arrow keys do the same.
+Scene {
+    id: root
+
+    required property ZoomViewController screen
+    readonly property real keyStep: 24
+
+    controller: screen
+    title: "Front Cover"
+
+    barItems: BarButton {
+        outlet: root.screen.ShareButton
+        action: "shareButtonClicked"
+    }
+
+    Item {
+        id: ground
+
+        // As wide as the narrower side, so that the cover is seen whole at first.
+        readonly property real room: Math.min(width, height)
+
+        anchors.fill: parent
+        clip: true
+        focus: true
+        onRoomChanged: root.screen.viewDidLayoutSubviews(room)
+
+        Keys.onPressed: event => {
+            const pan = root.screen.panRec;
+            const pinch = root.screen.pinchRec;
+            if (event.key === Qt.Key_Left)
+                pan.recognize(-root.keyStep, 0);
+            else if (event.key === Qt.Key_Right)
+                pan.recognize(root.keyStep, 0);
+            else if (event.key === Qt.Key_Up)
+                pan.recognize(0, -root.keyStep);
+            else if (event.key === Qt.Key_Down)
+                pan.recognize(0, root.keyStep);
+            else if (event.key === Qt.Key_Plus)
+                pinch.recognize(1.25);
+            else if (event.key === Qt.Key_Minus)
+                pinch.recognize(0.8);
+            else
+                return;
+            event.accepted = true;
+        }
+
+        Item {
+            id: view
+
+            property UICollectionView outlet: root.screen.ZoomCollectionView
+
+            x: (ground.width - width) / 2 + outlet.center.x
+            y: (ground.height - height) / 2 + outlet.center.y
+            width: outlet.itemSize.width
+            height: outlet.itemSize.height
+            scale: outlet.scale
+
+            Repeater {
+                model: view.outlet.cells
+
+                Rectangle {
+                    id: cell
+
+                    required property zoomCollectionViewCell modelData
+
+                    anchors.fill: parent
+                    radius: modelData.layer.cornerRadius
+                    color: Theme.shades.field
+                    border.width: modelData.layer.borderWidth
+                    border.color: modelData.layer.borderColor
+
+                    Accessible.role: Accessible.Graphic
+                    Accessible.name: root.title
+
+                    ImageItem {
+                        anchors.fill: parent
+                        anchors.margins: cell.border.width
+                        image: cell.modelData.ZoomImage // qmllint disable
+                        radius: cell.radius - cell.border.width
+                        fillMode: ImageItem.Fit
+                    }
+                }
+            }
+        }
+
+        PinchHandler {
+            property real reached: 1
+
+            target: null
+            onActiveChanged: reached = 1
+            onActiveScaleChanged: {
+                root.screen.pinchRec.recognize(activeScale / reached);
+                reached = activeScale;
+            }
+        }
+
+        DragHandler {
+            property vector2d reached
+
+            target: null
+            onActiveChanged: reached = Qt.vector2d(0, 0)
+            onActiveTranslationChanged: {
+                const way = activeTranslation.minus(reached);
+                root.screen.panRec.recognize(way.x, way.y);
+                reached = activeTranslation;
+            }
+        }
+
+        WheelHandler {
+            target: null
+            onWheel: event => root.screen.pinchRec.recognize(Math.pow(1.1, event.angleDelta.y / 120))
+        }
+    }
+}

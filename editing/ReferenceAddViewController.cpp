@@ -43,8 +43,9 @@ void ReferenceAddViewController::SaveGenre()
 
 bool ReferenceAddViewController::isInList(const QString& text) const
 {
-    return std::any_of(listOfValues.begin(), listOfValues.end(),
-                       [wanted = inComposedForm(text)](const QString& known) { return inComposedForm(known) == wanted; });
+    return std::any_of(
+        listOfValues.begin(), listOfValues.end(),
+        [wanted = inComposedForm(text)](const QString& known) { return inComposedForm(known) == wanted; });
 }
 
 void ReferenceAddViewController::refuse(const QString& reason)

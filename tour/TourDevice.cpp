@@ -40,6 +40,11 @@ struct TourDevice::DeafAddressOpener : AddressOpener
     bool open(const QUrl& /*address*/) override { return true; }
 };
 
+struct TourDevice::SilentReviewPrompt : ReviewPrompt
+{
+    void ask(UIWindowScene* /*scene*/) override {}
+};
+
 namespace {
 
 template <typename Told, typename Service>
@@ -60,6 +65,7 @@ TourDevice::TourDevice(const QString& folder)
 {
     documents->folder = folder;
     replaceService<DeafAddressOpener>(device->addressOpener);
+    replaceService<SilentReviewPrompt>(device->reviewPrompt);
 }
 
 void TourDevice::setPickedFile(const QString& path)

@@ -3,7 +3,8 @@
 #include "platform/services/Device.h"
 
 // The device that the program really runs on, but for what would lead out of the tour: the file dialog picks
-// by itself, addresses lead nowhere, and the tour decides on light or dark and on whether there are text
+// by itself, addresses lead nowhere, nobody asks for a
+// review, and the tour decides on light or dark and on whether there are text
 // messages.
 class TourDevice
 {
@@ -22,6 +23,7 @@ private:
     struct ToldTextMessages;
     struct ToldInterfaceStyle;
     struct DeafAddressOpener;
+    struct SilentReviewPrompt;
 
     std::unique_ptr<Device> device = makeLinuxDevice();
     SelfAnsweringDocuments* documents;

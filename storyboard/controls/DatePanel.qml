@@ -29,8 +29,7 @@ InputView {
 
     function load() {
         const values = {
-            picker: panel.picker,
-            shades: panel.shades
+            picker: panel.picker
         };
         if (panel.picker.preferredDatePickerStyle === UIDatePicker.Inline)
             loader.setSource("MonthCalendar.qml", values);
@@ -47,6 +46,12 @@ InputView {
         id: loader
 
         width: parent.width
+    }
+
+    Binding {
+        target: loader.item as DateView
+        property: "shades"
+        value: panel.shades
     }
 
     Connections {

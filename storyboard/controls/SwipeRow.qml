@@ -61,8 +61,11 @@ Item {
     Accessible.focused: isMarked
     Accessible.onPressAction: activate()
 
+    // A row out of use is only not drawn: assistive technology would still find it.
+    ListView.onPooled: visible = false
     // A row in use again shows no trace of the one before.
     ListView.onReused: {
+        visible = true;
         slide.stop();
         face.x = 0;
         opacity = 1;
@@ -103,43 +106,45 @@ Item {
         width: parent.width
         height: parent.height
 
-        MouseArea {
-            anchors.fill: parent
-            acceptedButtons: Qt.LeftButton | Qt.RightButton
-            onPressed: row.view.keyboardUsed = false
-            onClicked: mouse => {
+        // Handlers, not a MouseArea: that would keep a finger from drawing the list along.
+        TapHandler {
+            onPressedChanged: if (pressed)
+                row.view.keyboardUsed = false
+            onTapped: {
                 row.view.currentIndex = row.index;
-                if (mouse.button === Qt.RightButton)
+                row.activate();
+            }
+            onLongPressed: row.uncover()
+        }
+
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            onTapped: row.uncover()
+        }
+
+        DragHandler {
+            id: drag
+
+            property real from: 0
+
+            target: null
+            yAxis.enabled: false
+            dragThreshold: 12
+            onActiveChanged: {
+                if (active) {
+                    row.actions = row.table.swipeActionTitles(row.index);
+                    row.view.keepOpen(row);
+                    from = face.x;
+                } else if (row.actions.length > 0 && face.x < -0.6 * row.width) {
+                    row.act(0);
+                } else if (face.x < -row.actionWidth / 2) {
                     row.uncover();
-                else
-                    row.activate();
-            }
-            onPressAndHold: row.uncover()
-
-            DragHandler {
-                id: drag
-
-                property real from: 0
-
-                target: null
-                yAxis.enabled: false
-                dragThreshold: 12
-                onActiveChanged: {
-                    if (active) {
-                        row.actions = row.table.swipeActionTitles(row.index);
-                        row.view.keepOpen(row);
-                        from = face.x;
-                    } else if (row.actions.length > 0 && face.x < -0.6 * row.width) {
-                        row.act(0);
-                    } else if (face.x < -row.actionWidth / 2) {
-                        row.uncover();
-                    } else {
-                        row.cover();
-                    }
+                } else {
+                    row.cover();
                 }
-                onActiveTranslationChanged: if (active && row.actions.length > 0)
-                    face.x = Math.max(-row.width, Math.min(0, from + activeTranslation.x))
             }
+            onActiveTranslationChanged: if (active && row.actions.length > 0)
+                face.x = Math.max(-row.width, Math.min(0, from + activeTranslation.x))
         }
     }
 }

@@ -70,7 +70,7 @@ TEST_F(ReviewServiceTest, SevenDaysOfTheCalendarMustBeOver)
         QDateTime last;
         QDateTime weekLater;
     };
-    constexpr qint64 week = 7 * 24 * 3600;
+    constexpr qint64 week = qint64{7} * 24 * 3600;
     const std::vector<Case> cases{
         {local(6, 1), local(6, 8)},
         {local(3, 10), local(3, 17)},

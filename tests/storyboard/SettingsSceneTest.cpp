@@ -75,7 +75,8 @@ TEST_F(SettingsSceneTest, TheDateFieldComesWithItsSwitchAndThePickerInTheStyleLa
     for (const auto& [toggle, sign] : styles) {
         toggle->toggle();
         screen.dateTextField->becomeFirstResponder();
-        const auto& [role, name] = sign;
+        const QAccessible::Role role = sign.first;
+        const QString& name = sign.second;
         EXPECT_TRUE(QTest::qWaitFor([&] { return visible(role, name) != nullptr; })) << qPrintable(name);
         screen.endEditing();
         EXPECT_TRUE(QTest::qWaitFor([&] { return visible(QAccessible::Button, "Done") == nullptr; }));

@@ -20,7 +20,7 @@ class EditMovieTest : public MovieEditorTest
 {
 protected:
     // A stored movie, chosen in the list.
-    static std::shared_ptr<Movies> chosen(std::optional<QDateTime> date = watched)
+    static std::shared_ptr<Movies> chosen(const std::optional<QDateTime>& date = watched)
     {
         const auto movie =
             given({.name = "Alien", .genre = "Horror", .rating = "R", .year = 1979, .watched = date});
@@ -217,7 +217,7 @@ TEST_F(EditMovieTest, ZoomShowsTheStoredCoverAndMovesWithoutBounds)
     editor.TapFrontImage();
     EXPECT_EQ(storyboard.taken, QStringList("Zoom"));
 
-    ZoomViewController& zoom = pushed<ZoomViewController>();
+    auto& zoom = pushed<ZoomViewController>();
     zoom.viewDidLayoutSubviews(350);
     EXPECT_EQ(zoom.ZoomCollectionView->itemSize(), QSizeF(300, 300));
     ASSERT_EQ(zoom.ZoomCollectionView->cells().size(), 1);

@@ -106,7 +106,7 @@ protected:
     }
 
     // What is saved, in the order of insertion.
-    QStringList stored() const
+    [[nodiscard]] QStringList stored() const
     {
         const auto connection = otherConnection();
         Query query = connection->query(

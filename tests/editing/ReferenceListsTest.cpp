@@ -2,6 +2,8 @@
 
 #include "editing/ReferenceTexts.h"
 
+#include <gmock/gmock.h>
+
 namespace {
 
 TEST_P(ReferenceListTest, TheListIsSortedUnderItsNumberAndShowsEqualTextsEach)

@@ -12,7 +12,6 @@
 namespace {
 
 constexpr double rowHeightInPoints = 60;
-constexpr double headerFontSize = 13;
 constexpr double symbolImagesSince = 13;
 constexpr double menusSince = 14;
 
@@ -182,11 +181,7 @@ std::optional<LabelContent> MainListTableViewController::viewForHeaderInSection(
     QString text = QStringLiteral("# Movies = ");
     if (isSearching())
         text += QString::number(FilteredMovieList.size()) + QStringLiteral(" of ");
-    return LabelContent{.text = text + QString::number(MovieList.size()),
-                        .textColor = Qt::red,
-                        .backgroundColor = Qt::lightGray,
-                        .fontSize = headerFontSize,
-                        .centred = true};
+    return countHeader(text + QString::number(MovieList.size()));
 }
 
 bool MainListTableViewController::canEditRowAt(const NSIndexPath& /*indexPath*/)

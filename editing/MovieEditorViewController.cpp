@@ -49,6 +49,9 @@ void MovieEditorViewController::connectInputs()
         reference.picker->setTag(reference.tag);
         reference.picker->setDelegate(this);
         reference.field->setInputView(reference.picker);
+        connect(reference.field, &UITextInput::editingDidBegin, reference.picker, [&reference] {
+            reference.picker->selectRow(static_cast<int>(reference.rows->indexOf(reference.field->text())));
+        });
     }
 }
 

@@ -6,7 +6,6 @@
 namespace {
 
 constexpr double referenceRowHeight = 44;
-constexpr double referenceHeaderFontSize = 13;
 
 } // namespace
 
@@ -52,11 +51,7 @@ double ReferenceListTableViewController::heightForRowAt(const NSIndexPath& /*ind
 
 std::optional<LabelContent> ReferenceListTableViewController::viewForHeaderInSection(int /*section*/)
 {
-    return LabelContent{.text = kind.headerPrefix + QString::number(listOfValues.size()),
-                        .textColor = Qt::red,
-                        .backgroundColor = Qt::lightGray,
-                        .fontSize = referenceHeaderFontSize,
-                        .centred = true};
+    return countHeader(kind.headerPrefix + QString::number(listOfValues.size()));
 }
 
 bool ReferenceListTableViewController::canEditRowAt(const NSIndexPath& /*indexPath*/)

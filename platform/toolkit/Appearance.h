@@ -58,3 +58,5 @@ public:
 // The look that every row of the system shares: a very pale cyan with a round black edge.
 [[nodiscard]] Layer rowLayer();
 [[nodiscard]] QColor rowBackgroundColor();
+// The line above a list that says how many rows it has.
+[[nodiscard]] LabelContent countHeader(const QString& text);

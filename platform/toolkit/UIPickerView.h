@@ -44,8 +44,10 @@ public:
     // The look that all rows share (that of the first).
     [[nodiscard]] LabelContent rowLook() const;
 
-    // -1 until the user chose.
+    // -1: none, as it is until a row is chosen or selected.
     [[nodiscard]] int selectedRow() const { return selected; }
+    // Turns the wheel without telling the delegate.
+    void selectRow(int row) { assign(selected, row); }
 
     // The user turned the wheel to `row`, or tapped it. A row outside does nothing.
     Q_INVOKABLE void choose(int row);

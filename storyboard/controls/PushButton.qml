@@ -58,12 +58,14 @@ Pressable {
             id: content
 
             anchors.centerIn: parent
-            columns: button.stacked ? 1 : 2
+            columns: button.stacked || !symbol.visible ? 1 : 2
             spacing: button.stacked ? 4 : 8
             horizontalItemAlignment: Grid.AlignHCenter
             verticalItemAlignment: Grid.AlignVCenter
 
             Symbol {
+                id: symbol
+
                 name: button.outlet !== null ? button.outlet.image : ""
                 color: button.titleColor
                 size: 20

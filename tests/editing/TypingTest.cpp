@@ -92,6 +92,10 @@ TEST_F(TypingTest, PickersOfferEachReferenceOnceInOrderAndFillTheirField)
         picker->choose(0);
         EXPECT_EQ(field->text(), picker->titles().front());
     }
+    screen.GenreTextField->setText("War");
+    screen.GenreTextField->becomeFirstResponder();
+    EXPECT_EQ(screen.GenrePickerView->selectedRow(), 1) << "the wheel starts at what the field holds";
+    EXPECT_EQ(screen.GenreTextField->text(), "War");
     UIPickerView other;
     other.setTag(3);
     other.setDelegate(&screen);

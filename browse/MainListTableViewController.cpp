@@ -6,14 +6,13 @@
 #include "model/SharedValues.h"
 #include "platform/foundation/Console.h"
 #include "platform/services/Device.h"
+#include "platform/services/SystemVersions.h"
 #include "platform/services/TextSharing.h"
 #include "platform/services/UITraitCollection.h"
 
 namespace {
 
 constexpr double rowHeightInPoints = 60;
-constexpr double symbolImagesSince = 13;
-constexpr double menusSince = 14;
 
 struct SortOption
 {
@@ -87,13 +86,13 @@ void MainListTableViewController::setBarButtons()
     const double version = Device::current().systemVersion;
     SortButton->setTitle(QStringLiteral("Sort"));
     ShareButton->setTitle(QStringLiteral("Share"));
-    if (version >= symbolImagesSince) {
+    if (version >= SystemVersions::symbolImages) {
         SortButton->setImage(QStringLiteral("arrow.up.arrow.down"));
         ShareButton->setImage(QStringLiteral("square.and.arrow.up"));
     }
     auto menuButton = std::make_unique<UIBarButtonItem>(
         UIAction{.title = QStringLiteral("Menu"), .handler = [this] { fallbackMenuTapped(); }});
-    if (version >= menusSince) {
+    if (version >= SystemVersions::menus) {
         menuButton->setImage(QStringLiteral("ellipsis.circle"));
         menuButton->setMenu(sortMenu());
     }

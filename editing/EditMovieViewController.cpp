@@ -7,6 +7,7 @@
 #include "platform/foundation/Console.h"
 #include "platform/foundation/DispatchQueue.h"
 #include "platform/services/Device.h"
+#include "platform/services/SystemVersions.h"
 #include "platform/services/TextSharing.h"
 #include "platform/toolkit/UIAlertController.h"
 #include "platform/toolkit/UIImage.h"
@@ -17,7 +18,6 @@
 namespace {
 
 constexpr std::chrono::seconds reviewDelay(5);
-constexpr double barSymbolsSince = 13;
 
 // Where each place that opens this screen is returned to.
 const QHash<QString, QString>& segueByReturnScreen()
@@ -86,7 +86,7 @@ void EditMovieViewController::labelBarButtons()
 {
     ZoomButton->setTitle(QStringLiteral("Magnify"));
     ShareButton->setTitle(QStringLiteral("Share"));
-    if (Device::current().systemVersion < barSymbolsSince)
+    if (Device::current().systemVersion < SystemVersions::symbolImages)
         return;
     ZoomButton->setImage(QStringLiteral("plus.magnifyingglass"));
     ShareButton->setImage(QStringLiteral("square.and.arrow.up"));

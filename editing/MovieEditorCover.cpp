@@ -4,15 +4,14 @@
 #include "editing/MovieEditorViewController.h"
 #include "platform/foundation/Console.h"
 #include "platform/services/Device.h"
+#include "platform/services/SystemVersions.h"
 
 namespace {
-
-constexpr double contentTypesFrom = 14;
 
 QStringList coverContentTypes()
 {
     QStringList types{QStringLiteral("public.data")};
-    if (Device::current().systemVersion >= contentTypesFrom)
+    if (Device::current().systemVersion >= SystemVersions::contentTypes)
         types << QStringLiteral("public.jpeg") << QStringLiteral("public.png");
     return types;
 }

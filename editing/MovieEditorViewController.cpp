@@ -4,13 +4,13 @@
 #include "editing/ReferenceTexts.h"
 #include "model/ReferenceRecords.h"
 #include "platform/services/Device.h"
+#include "platform/services/SystemVersions.h"
 #include "platform/toolkit/UIAlertController.h"
 
 namespace {
 
 constexpr int digitsOnlyTag = 1;
 constexpr double pickerFontSize = 16;
-constexpr double symbolImagesFrom = 13;
 
 } // namespace
 
@@ -76,7 +76,7 @@ void MovieEditorViewController::labelImageButtons()
         QString title;
         QString symbol;
     };
-    const bool hasSymbols = Device::current().systemVersion >= symbolImagesFrom;
+    const bool hasSymbols = Device::current().systemVersion >= SystemVersions::symbolImages;
     for (const Face& face :
          {Face{PasteButton, QStringLiteral("Paste"), QStringLiteral("doc.on.clipboard.fill")},
           Face{CameraButton, QStringLiteral("Camera"), QStringLiteral("camera")},

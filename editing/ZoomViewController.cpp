@@ -2,6 +2,7 @@
 
 #include "model/SharedValues.h"
 #include "platform/services/Device.h"
+#include "platform/services/SystemVersions.h"
 #include "platform/services/TextSharing.h"
 #include "platform/toolkit/UIImage.h"
 
@@ -9,7 +10,6 @@ namespace {
 
 constexpr double itemMargin = 20;
 constexpr double itemShare = 1.1;
-constexpr double shareSymbolSince = 13;
 
 QImage selectedCover()
 {
@@ -24,7 +24,7 @@ void ZoomViewController::viewDidLoad()
     connect(pinchRec, &UIPinchGestureRecognizer::recognized, this, [this] { pinchedView(*pinchRec); });
     connect(panRec, &UIPanGestureRecognizer::recognized, this, [this] { draggedView(*panRec); });
     ShareButton->setTitle(QStringLiteral("Share"));
-    if (Device::current().systemVersion >= shareSymbolSince)
+    if (Device::current().systemVersion >= SystemVersions::symbolImages)
         ShareButton->setImage(QStringLiteral("square.and.arrow.up"));
     ZoomCollectionView->setDataSource(this);
     ZoomCollectionView->reloadData();

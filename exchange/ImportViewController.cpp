@@ -5,15 +5,14 @@
 #include "model/MarrowvaleModel.h"
 #include "platform/foundation/Console.h"
 #include "platform/services/Device.h"
+#include "platform/services/SystemVersions.h"
 #include "platform/toolkit/UIAlertController.h"
 
 namespace {
 
-constexpr double contentTypesSince = 14;
-
 QStringList importableTypes()
 {
-    if (Device::current().systemVersion < contentTypesSince)
+    if (Device::current().systemVersion < SystemVersions::contentTypes)
         return {QStringLiteral("public.data")};
     return {QStringLiteral("public.file-url"), QStringLiteral("public.image"), QStringLiteral("public.item")};
 }

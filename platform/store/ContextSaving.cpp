@@ -19,6 +19,14 @@ Status NSManagedObjectContext::flush()
     return success();
 }
 
+// What the store refuses, on a full disk for one, stays unsaved and unseen: better than a list that shows
+// nothing.
+void NSManagedObjectContext::flushIfPossible()
+{
+    if (const auto flushed = flush(); !flushed)
+        console(flushed.error().localizedDescription);
+}
+
 Status NSManagedObjectContext::begin()
 {
     if (transactionOpen)

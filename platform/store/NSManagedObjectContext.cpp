@@ -30,15 +30,14 @@ EntityTable& NSManagedObjectContext::requireTable(const QString& entityName) con
 Status NSManagedObjectContext::collect(const NSFetchRequest& request, const Sink& sink)
 {
     auto& table = requireTable(request.entityName);
-    const auto flushed = flush();
-    return flushed ? table.fetch(request, sink) : flushed;
+    flushIfPossible();
+    return table.fetch(request, sink);
 }
 
 Result<qsizetype> NSManagedObjectContext::count(const NSFetchRequest& request)
 {
     auto& table = requireTable(request.entityName);
-    if (const auto flushed = flush(); !flushed)
-        return flushed.error();
+    flushIfPossible();
     return table.count(request);
 }
 

@@ -11,9 +11,9 @@ class Database;
 class EntityTable;
 
 // Where the objects of a store are fetched, made, changed and deleted, on one thread. Changes are seen by
-// every fetch at once, and become permanent, all together, with the next save; what is not saved is gone when
-// the process ends. When something fails, nothing unsaved is lost: the objects keep their values, and the
-// next save tries again.
+// every fetch at once, unless the store refuses them, and become permanent, all together, with the next save;
+// what is not saved is gone when the process ends. When something fails, nothing unsaved is lost: the objects
+// keep their values, and the next save tries again.
 //
 // Programming errors, such as an entity that the model lacks, end the program.
 class NSManagedObjectContext
@@ -61,6 +61,7 @@ private:
     [[nodiscard]] Status collect(const NSFetchRequest& request, const Sink& sink);
     [[nodiscard]] EntityTable& requireTable(const QString& entityName) const;
     [[nodiscard]] Status flush();
+    void flushIfPossible();
     [[nodiscard]] Status begin();
     void noticeRollback();
     void settle();

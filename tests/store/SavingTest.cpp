@@ -103,6 +103,7 @@ TEST_P(FailedSave, losesNothing)
     }
     store.context->deleteObject(dropped);
     EXPECT_TRUE(store.context->hasChanges());
+    EXPECT_FALSE(store.all().empty()) << "what the store has can still be listed";
     EXPECT_EQ(TestStore::saved("SELECT COUNT(*) FROM Films WHERE title IN ('before', 'deleted')"), 2);
 
     ASSERT_TRUE(store.connection->run("PRAGMA max_page_count = 1000000"));

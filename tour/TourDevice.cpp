@@ -26,6 +26,7 @@ struct TourDevice::SelfAnsweringDocuments : Documents
 struct TourDevice::ToldTextMessages : TextMessages
 {
     [[nodiscard]] bool canSendText() const override { return can; }
+    bool compose(const QString& /*text*/) override { return true; }
     bool can = false;
 };
 
@@ -38,6 +39,12 @@ struct TourDevice::ToldInterfaceStyle : InterfaceStyle
 struct TourDevice::DeafAddressOpener : AddressOpener
 {
     bool open(const QUrl& /*address*/) override { return true; }
+};
+
+struct TourDevice::PaperlessPrinter : Printer
+{
+    void print(const PrintJob& /*job*/, Told told) override { told(true, std::nullopt); }
+    void cancelAsking() override {}
 };
 
 struct TourDevice::SilentReviewPrompt : ReviewPrompt
@@ -65,6 +72,7 @@ TourDevice::TourDevice(const QString& folder)
 {
     documents->folder = folder;
     replaceService<DeafAddressOpener>(device->addressOpener);
+    replaceService<PaperlessPrinter>(device->printer);
     replaceService<SilentReviewPrompt>(device->reviewPrompt);
 }
 

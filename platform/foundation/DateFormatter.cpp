@@ -83,3 +83,14 @@ std::optional<QDateTime> DateFormatter::dateFrom(const QString& text) const
         return std::nullopt;
     return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(date));
 }
+
+QString longDateText(const QDateTime& date)
+{
+    // Making a formatter costs more than using it, and every row of a list needs one.
+    static const DateFormatter formatter = [] {
+        DateFormatter longStyle;
+        longStyle.setDateStyle(DateStyle::Long);
+        return longStyle;
+    }();
+    return formatter.stringFrom(date);
+}

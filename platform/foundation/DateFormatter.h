@@ -31,3 +31,6 @@ private:
     std::optional<QString> pattern;
     std::shared_ptr<void*> format; // ICU's; replaced, never changed, so copies may share it.
 };
+
+// `date` in the long style, such as "March 5, 2021", in the user's locale as it was at the first call.
+[[nodiscard]] QString longDateText(const QDateTime& date);

@@ -1,6 +1,7 @@
 #include "platform/foundation/DispatchQueue.h"
 
 #include <QCoreApplication>
+#include <QThreadPool>
 #include <QTimer>
 #include <utility>
 
@@ -21,10 +22,36 @@ public:
     }
 };
 
+class ThreadPoolQueue final : public DispatchQueue
+{
+public:
+    void async(Work work) override { QThreadPool::globalInstance()->start(std::move(work)); }
+
+    void asyncAfter(std::chrono::milliseconds delay, Work work) override
+    {
+        DispatchQueue::main().asyncAfter(delay, [this, work = std::move(work)] { async(work); });
+    }
+};
+
+class ImmediateQueue final : public DispatchQueue
+{
+public:
+    void async(Work work) override { work(); }
+    void asyncAfter(std::chrono::milliseconds delay, Work work) override
+    {
+        DispatchQueue::main().asyncAfter(delay, std::move(work));
+    }
+};
+
+DispatchQueue& eventLoop()
+{
+    static EventLoopQueue queue;
+    return queue;
+}
+
 DispatchQueue*& installedMainQueue()
 {
-    static EventLoopQueue eventLoop;
-    static DispatchQueue* installed = &eventLoop;
+    static DispatchQueue* installed = &eventLoop();
     return installed;
 }
 
@@ -43,4 +70,13 @@ DispatchQueue::MainScope::~MainScope()
 DispatchQueue& DispatchQueue::main()
 {
     return *installedMainQueue();
+}
+
+DispatchQueue& DispatchQueue::global()
+{
+    static ThreadPoolQueue threads;
+    static ImmediateQueue immediate;
+    if (installedMainQueue() == &eventLoop())
+        return threads;
+    return immediate;
 }

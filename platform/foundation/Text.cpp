@@ -1,6 +1,7 @@
 #include "platform/foundation/Text.h"
 
 #include <algorithm>
+#include <unicode/ustring.h>
 
 namespace {
 
@@ -34,4 +35,11 @@ std::optional<qint16> int16From(const QString& text)
     bool ok = false;
     const qint16 number = text.toShort(&ok);
     return ok ? std::optional(number) : std::nullopt;
+}
+
+bool precedesByCodePoint(const QString& left, const QString& right)
+{
+    const auto length = [](const QString& text) { return static_cast<int32_t>(text.size()); };
+    return u_strCompare(reinterpret_cast<const UChar*>(left.utf16()), length(left),
+                        reinterpret_cast<const UChar*>(right.utf16()), length(right), UBool(true)) < 0;
 }

@@ -9,3 +9,6 @@
 // The number that the whole of `text` spells: an optional "+" or "-", then ASCII decimal digits and nothing
 // else. Absent when it spells none, or one outside -32768 to 32767.
 [[nodiscard]] std::optional<qint16> int16From(const QString& text);
+
+// Whether `left` comes before `right`, character by character by code point: upper case before lower case.
+[[nodiscard]] bool precedesByCodePoint(const QString& left, const QString& right);

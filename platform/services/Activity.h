@@ -8,6 +8,8 @@ struct Activity
     UIActivityViewController::ActivityType type;
     QString title;
     QString symbol;
+    // Whether it is offered for them.
+    bool (*applies)(const std::vector<ActivityItem>& items);
     void (*perform)(const std::vector<ActivityItem>& items, UIViewController& presenter);
 };
 

@@ -11,3 +11,8 @@ bool hasHandlerFor(const char* scheme)
     g_object_unref(handler);
     return true;
 }
+
+bool openInHandler(const QString& address)
+{
+    return g_app_info_launch_default_for_uri(address.toUtf8().constData(), nullptr, nullptr) != FALSE;
+}

@@ -4,7 +4,9 @@
 #include "platform/services/Camera.h"
 #include "platform/services/Documents.h"
 #include "platform/services/InterfaceStyle.h"
+#include "platform/services/Mail.h"
 #include "platform/services/Pasteboard.h"
+#include "platform/services/Printer.h"
 #include "platform/services/ReviewPrompt.h"
 #include "platform/services/TextMessages.h"
 
@@ -25,9 +27,11 @@ struct Device
     // Major and minor version of the platform; below 13, 13.4 and 14 screens take their fallbacks.
     double systemVersion = 14;
 
+    std::unique_ptr<Mail> mail;
     std::unique_ptr<TextMessages> textMessages;
     std::unique_ptr<Documents> documents;
     std::unique_ptr<Pasteboard> pasteboard;
+    std::unique_ptr<Printer> printer;
     std::unique_ptr<Camera> camera;
     std::unique_ptr<InterfaceStyle> interfaceStyle;
     std::unique_ptr<AddressOpener> addressOpener;

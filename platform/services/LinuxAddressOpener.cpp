@@ -1,8 +1,8 @@
 #include "platform/services/LinuxAddressOpener.h"
 
-#include <QDesktopServices>
+#include "platform/services/AddressHandlers.h"
 
 bool LinuxAddressOpener::open(const QUrl& address)
 {
-    return QDesktopServices::openUrl(address);
+    return openInHandler(QString::fromLatin1(address.toEncoded()));
 }

@@ -1,20 +1,13 @@
 #include "platform/services/LinuxDocuments.h"
 
+#include "platform/services/DialogStacking.h"
+
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QSaveFile>
 #include <QStandardPaths>
-#include <QWindow>
 
 namespace {
-
-// Keeps the dialog above the program's window, which no widget knows of.
-void stackAbove(QWidget& dialog, QWindow* window)
-{
-    dialog.winId();
-    if (window != nullptr && dialog.windowHandle() != nullptr)
-        dialog.windowHandle()->setTransientParent(window);
-}
 
 QString writeWhole(const QString& path, const QByteArray& content)
 {

@@ -8,4 +8,5 @@ class LinuxTextMessages : public TextMessages
 {
 public:
     [[nodiscard]] bool canSendText() const override;
+    bool compose(const QString& text) override;
 };

@@ -1,10 +1,24 @@
 #pragma once
 
-#include "platform/services/Device.h"
+#include "platform/toolkit/UIViewController.h"
 
-// The composer of text messages.
-class MFMessageComposeViewController
+// Opens a text in the device's program for messages as soon as it is presented, then takes itself away. It
+// shows nothing itself, but an alert where that fails.
+class MFMessageComposeViewController : public UIViewController
 {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Presented by screens")
+
 public:
-    [[nodiscard]] static bool canSendText() { return Device::current().textMessages->canSendText(); }
+    [[nodiscard]] static bool canSendText();
+
+    explicit MFMessageComposeViewController(QString body);
+
+    void viewWillAppear(bool animated) override;
+
+private:
+    void takeAway();
+
+    QString body;
 };

@@ -2,7 +2,10 @@
 
 #include "platform/services/UIActivityViewController.h"
 
-// Opens the share sheet on `screen` for what `makeItems` answers. On a device that can't send text messages
-// an alert says so instead, once the main queue gets to it, and nothing is made.
+// Whether the device can send text messages. Where it can't, an alert on `screen` says so once the main queue
+// gets to it.
+[[nodiscard]] bool canSendTextsFrom(UIViewController& screen);
+
+// Opens the share sheet on `screen` for what `makeItems` answers, if texts can be sent from there.
 void shareWhereTextsCanBeSent(UIViewController& screen,
                               const std::function<std::vector<ActivityItem>()>& makeItems);

@@ -14,8 +14,9 @@ UIActivityViewController::UIActivityViewController(std::vector<ActivityItem> ite
     : items(std::move(items))
 {
     for (const Activity& activity : allActivities()) {
-        if (std::find(excludedActivityTypes.begin(), excludedActivityTypes.end(), activity.type) ==
-            excludedActivityTypes.end())
+        const bool isExcluded = std::find(excludedActivityTypes.begin(), excludedActivityTypes.end(),
+                                          activity.type) != excludedActivityTypes.end();
+        if (!isExcluded && activity.applies(this->items))
             offered.push_back(&activity);
     }
 }

@@ -23,7 +23,20 @@ class UIActivityViewController : public UIViewController
     Q_PROPERTY(QString preview READ preview CONSTANT FINAL)
 
 public:
-    enum class ActivityType { CopyToPasteboard, SaveToFiles };
+    enum class ActivityType {
+        CopyToPasteboard,
+        SaveToFiles,
+        Mail,
+        Message,
+        Print,
+        OpenWith,
+        // Those that this device never offers, for screens that exclude them by name.
+        AirDrop,
+        AddToReadingList,
+        PostToFacebook,
+        PostToTwitter,
+        MarkupAsPDF
+    };
 
     explicit UIActivityViewController(std::vector<ActivityItem> items,
                                       const std::vector<ActivityType>& excludedActivityTypes = {});

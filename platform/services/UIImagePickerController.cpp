@@ -12,15 +12,43 @@ UIImagePickerController::UIImagePickerController(UIImagePickerControllerDelegate
 {
 }
 
-void UIImagePickerController::take(const QImage& image)
+UIImagePickerController::~UIImagePickerController()
 {
-    QVariantMap info;
-    if (!image.isNull())
-        info.insert(UIImagePickerControllerOriginalImage, image);
-    delegate.didFinishPickingMediaWithInfo(*this, info);
+    turnCameraOff();
+}
+
+void UIImagePickerController::viewWillAppear(bool /*animated*/)
+{
+    cameraOn = true;
+    Device::current().camera->start([this](const Result<QImage>& told) { show(told); });
+}
+
+void UIImagePickerController::viewDidDisappear(bool /*animated*/)
+{
+    turnCameraOff();
+}
+
+void UIImagePickerController::turnCameraOff()
+{
+    if (std::exchange(cameraOn, false))
+        Device::current().camera->stop();
+}
+
+void UIImagePickerController::show(const Result<QImage>& told)
+{
+    seen = told ? told.value() : QImage();
+    missing = told ? QString() : told.error().localizedDescription;
+    Q_EMIT pictureChanged();
+}
+
+void UIImagePickerController::take()
+{
+    if (hasPicture() && presentingViewController() != nullptr)
+        delegate.didFinishPickingMediaWithInfo(*this, {{UIImagePickerControllerOriginalImage, seen}});
 }
 
 void UIImagePickerController::cancel()
 {
-    delegate.imagePickerControllerDidCancel(*this);
+    if (presentingViewController() != nullptr)
+        delegate.imagePickerControllerDidCancel(*this);
 }

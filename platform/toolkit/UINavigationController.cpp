@@ -26,6 +26,13 @@ UINavigationController::UINavigationController(UIStoryboard& storyboard, QObject
 
 UINavigationController::~UINavigationController() = default;
 
+UINavigationController* UINavigationController::makeStackWithin(UIViewController& host) const
+{
+    auto* inner = new UINavigationController(storyboard, &host);
+    inner->hostScreen = &host;
+    return inner;
+}
+
 UIViewController* UINavigationController::topViewController() const
 {
     return stack.empty() ? nullptr : stack.back().get();
@@ -58,6 +65,12 @@ void UINavigationController::pop()
         popTo(stack.size() - 1);
 }
 
+void UINavigationController::popToRoot()
+{
+    if (stack.size() > 1)
+        popTo(1);
+}
+
 void UINavigationController::popTo(std::size_t depth)
 {
     const std::vector<std::shared_ptr<UIViewController>> leaving(
@@ -84,7 +97,7 @@ void UINavigationController::perform(UIViewController& source, const QString& id
     if (target->unwindAction.isEmpty())
         show(target->makeDestination(), source, identifier);
     else
-        unwind(source, identifier, target->unwindAction);
+        unwind(source, {identifier, &source, nullptr}, target->unwindAction);
 }
 
 void UINavigationController::show(std::unique_ptr<UIViewController> destination, UIViewController& source,
@@ -97,20 +110,22 @@ void UINavigationController::show(std::unique_ptr<UIViewController> destination,
     push(std::move(destination));
 }
 
-void UINavigationController::unwind(UIViewController& source, const QString& identifier,
+void UINavigationController::unwind(const UIViewController& from, UIStoryboardSegue segue,
                                     const QString& action)
 {
-    for (std::size_t below = positionOf(source); below > 0; --below) {
+    for (std::size_t below = positionOf(from); below > 0; --below) {
         UIViewController& destination = *stack[below - 1];
         if (!hasUnwindAction(destination, action))
             continue;
-        const UIStoryboardSegue segue{identifier, &source, &destination};
-        source.prepareForSegue(segue);
+        segue.destination = &destination;
+        segue.source->prepareForSegue(segue);
         QMetaObject::invokeMethod(&destination, action.toLatin1().constData(), Qt::DirectConnection,
                                   Q_ARG(UIStoryboardSegue, segue));
         popTo(below);
         return;
     }
+    if (hostScreen != nullptr && hostScreen->navigationController() != nullptr)
+        hostScreen->navigationController()->unwind(*hostScreen, std::move(segue), action);
 }
 
 std::size_t UINavigationController::positionOf(const UIViewController& controller) const

@@ -21,6 +21,12 @@ public:
     explicit UINavigationController(UIStoryboard& storyboard, QObject* parent = nullptr);
     ~UINavigationController() override;
 
+    // An empty stack that stands within `host`, a screen of this stack, which owns it. Unwinding that finds
+    // nothing in there goes on below `host`.
+    [[nodiscard]] UINavigationController* makeStackWithin(UIViewController& host) const;
+    // The screen within which this stack stands; null: none.
+    [[nodiscard]] UIViewController* host() const { return hostScreen; }
+
     // Null while empty.
     [[nodiscard]] UIViewController* topViewController() const;
     // The first screen pushed; null while empty.
@@ -30,6 +36,7 @@ public:
     void push(std::unique_ptr<UIViewController> controller);
     // Goes back one screen, as the back button does; the root stays.
     Q_INVOKABLE void pop();
+    void popToRoot();
 
     // Called by UIViewController::performSegue.
     void perform(UIViewController& source, const QString& identifier);
@@ -48,11 +55,13 @@ Q_SIGNALS:
 private:
     void show(std::unique_ptr<UIViewController> destination, UIViewController& source,
               const QString& identifier);
-    void unwind(UIViewController& source, const QString& identifier, const QString& action);
+    // To the nearest screen below `from` that has the segue's action.
+    void unwind(const UIViewController& from, UIStoryboardSegue segue, const QString& action);
     void popTo(std::size_t depth);
     [[nodiscard]] std::size_t positionOf(const UIViewController& controller) const;
 
     UIStoryboard& storyboard;
+    UIViewController* hostScreen = nullptr;
     std::vector<std::shared_ptr<UIViewController>> stack;
     bool barHidden = false;
 };

@@ -28,9 +28,13 @@ public:
     [[nodiscard]] virtual double heightForRowAt(const NSIndexPath& indexPath) = 0;
     // Absent: the table has no header.
     [[nodiscard]] virtual std::optional<LabelContent> viewForHeaderInSection(int section) = 0;
-    [[nodiscard]] virtual bool canEditRowAt(const NSIndexPath& indexPath) = 0;
+    // Asked before the swipe actions; rows that say nothing can't be edited.
+    [[nodiscard]] virtual bool canEditRowAt(const NSIndexPath& /*indexPath*/) { return false; }
     [[nodiscard]] virtual std::vector<UIAction>
-    trailingSwipeActionsConfigurationForRowAt(const NSIndexPath& indexPath) = 0;
+    trailingSwipeActionsConfigurationForRowAt(const NSIndexPath& /*indexPath*/)
+    {
+        return {};
+    }
     virtual void didSelectRowAt(const NSIndexPath& indexPath) = 0;
 };
 

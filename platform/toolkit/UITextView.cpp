@@ -6,3 +6,38 @@ bool UITextView::allowsChange(const NSRange& range, const QString& replacement)
         return false;
     return viewDelegate == nullptr || viewDelegate->shouldChangeTextInRange(*this, range, replacement);
 }
+
+void UITextView::setAttributedText(const NSAttributedString& value)
+{
+    attributed = value;
+    setText(value.string());
+    if (cutText != nullptr)
+        cutText->cut(attributed);
+}
+
+NSAttributedString UITextView::attributedText() const
+{
+    return attributed.string() == text() ? attributed : NSAttributedString(text());
+}
+
+TextPieces* UITextView::pieces()
+{
+    if (cutText == nullptr) {
+        cutText = new TextPieces(this);
+        followText();
+        connect(this, &UIView::changed, this, &UITextView::followText);
+    }
+    return cutText;
+}
+
+void UITextView::followText()
+{
+    if (cutText->text() != text())
+        cutText->cut(text());
+}
+
+void UITextView::editPiece(int row, const QString& newText)
+{
+    if (!edit(cutText->replace(row, newText)))
+        cutText->cut(text());
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/toolkit/TextPieces.h"
 #include "platform/toolkit/UITextInput.h"
 
 class UITextView;
@@ -20,6 +21,7 @@ class UITextView : public UITextInput
     QML_ELEMENT
     QML_UNCREATABLE("Views belong to screens")
     Q_PROPERTY(bool editable READ isEditable NOTIFY changed FINAL)
+    Q_PROPERTY(TextPieces* pieces READ pieces CONSTANT FINAL)
 
 public:
     using UITextInput::UITextInput;
@@ -30,10 +32,24 @@ public:
     [[nodiscard]] bool isEditable() const { return editable; }
     void setEditable(bool value) { assign(editable, value); }
 
+    // The text with looks and pictures; its characters alone are text().
+    void setAttributedText(const NSAttributedString& value);
+    // Without looks once the text has been set or edited without any.
+    [[nodiscard]] NSAttributedString attributedText() const;
+
+    // The text for a layout that shows long ones; cut only once it is asked for.
+    [[nodiscard]] TextPieces* pieces();
+    // The user changed a piece.
+    Q_INVOKABLE void editPiece(int row, const QString& newText);
+
 protected:
     bool allowsChange(const NSRange& range, const QString& replacement) override;
 
 private:
+    void followText();
+
     UITextViewDelegate* viewDelegate = nullptr;
+    NSAttributedString attributed;
+    TextPieces* cutText = nullptr;
     bool editable = true;
 };

@@ -1,7 +1,7 @@
 #include "platform/toolkit/UIViewController.h"
 
 #include "platform/toolkit/UIBarButtonItem.h"
-#include "platform/toolkit/UINavigationController.h"
+#include "platform/toolkit/UITabBarController.h"
 #include "platform/toolkit/UITextInput.h"
 
 UIViewController::UIViewController(QObject* parent)
@@ -39,6 +39,11 @@ void UIViewController::setNavigationController(UINavigationController* controlle
 {
     navigation = controller;
     Q_EMIT changed();
+}
+
+UITabBarController* UIViewController::tabBarController() const
+{
+    return navigation == nullptr ? nullptr : qobject_cast<UITabBarController*>(navigation->host());
 }
 
 bool UIViewController::canGoBack() const

@@ -5,6 +5,7 @@
 
 class UIBarButtonItem;
 class UINavigationController;
+class UITabBarController;
 
 // A screen, or something shown on top of one. Its life: made -> viewDidLoad (once) -> viewWillAppear (at
 // every showing)
@@ -19,6 +20,7 @@ class UIViewController : public QObject
     Q_PROPERTY(UIBarButtonItem* rightBarButtonItem READ rightBarButtonItem NOTIFY changed FINAL)
     Q_PROPERTY(
         UIViewController* presentedViewController READ presentedViewController NOTIFY presentedChanged FINAL)
+    Q_PROPERTY(double viewWidth MEMBER viewWidth FINAL)
 
 public:
     explicit UIViewController(QObject* parent = nullptr);
@@ -48,12 +50,17 @@ public:
     // Null unless this is presented by another.
     [[nodiscard]] UIViewController* presentingViewController() const { return presenting; }
 
+    // Points. The layout keeps it up to date; without one it is that of a phone.
+    double viewWidth = 390;
+
     // Ends editing in every field of the screen.
     Q_INVOKABLE void endEditing();
 
     // The container that this screen stands in; null outside one.
     [[nodiscard]] UINavigationController* navigationController() const { return navigation; }
     void setNavigationController(UINavigationController* controller);
+    // The tab bar among whose tabs this screen stands; null: none.
+    [[nodiscard]] UITabBarController* tabBarController() const;
 
     // Whether another screen of the container lies below this one.
     [[nodiscard]] bool canGoBack() const;

@@ -2,6 +2,7 @@
 #include "tests/editing/AddMovieTest.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <sys/stat.h>
@@ -113,20 +114,76 @@ TEST_F(CoverTest, TheCameraGivesACoverWhereThereIsOne)
 
     device.setCameraAvailable(true);
     screen.OpenFrontCamera();
-    ASSERT_NE(shownCamera(screen), nullptr);
+    UIImagePickerController* picker = shownCamera(screen);
+    ASSERT_NE(picker, nullptr);
     EXPECT_TRUE(screen.isFrontImage && screen.isFromCamera);
-    shownCamera(screen)->take({});
-    ASSERT_NE(shownCamera(screen), nullptr) << "a result without an image changes nothing";
-    shownCamera(screen)->cancel();
+    screen.didFinishPickingMediaWithInfo(*picker, {});
+    ASSERT_EQ(shownCamera(screen), picker) << "a result without an image changes nothing";
+    picker->cancel();
     EXPECT_EQ(screen.presentedViewController(), nullptr);
     EXPECT_TRUE(screen.FrontImageView->image().isNull());
 
     screen.OpenFrontCamera();
-    shownCamera(screen)->take(plain(Qt::green));
+    device.letCameraTell(plain(Qt::red));
+    device.letCameraTell(plain(Qt::green));
+    shownCamera(screen)->take();
     EXPECT_EQ(screen.presentedViewController(), nullptr);
-    EXPECT_EQ(screen.FrontImageView->image(), plain(Qt::green));
+    EXPECT_EQ(screen.FrontImageView->image(), plain(Qt::green)) << "the one in sight";
     EXPECT_EQ(screen.chosenFrontImage, plain(Qt::green));
     EXPECT_FALSE(screen.isFrontImage || screen.isFromCamera);
+}
+
+TEST_F(CoverTest, ThePickerTakesOnlyWhatItShowsAndSaysWhyThatIsNothing)
+{
+    AddMovieViewController& screen = opened();
+    device.setCameraAvailable(true);
+    screen.OpenFrontCamera();
+    UIImagePickerController& picker = *shownCamera(screen);
+    picker.take();
+    EXPECT_EQ(picker.status(), "The camera gives no picture yet.");
+    device.letCameraTell(plain(Qt::red));
+    EXPECT_EQ(picker.status(), "");
+    device.letCameraTell(NSError{"The camera is gone.", {}});
+    EXPECT_EQ(picker.status(), "The camera is gone.");
+    picker.take();
+    EXPECT_EQ(shownCamera(screen), &picker) << "with nothing to take";
+    EXPECT_TRUE(screen.FrontImageView->image().isNull());
+}
+
+TEST_F(CoverTest, TheCameraIsOnOnlyWhileThePickerIsThere)
+{
+    const std::vector<std::function<void(UIImagePickerController&)>> waysOut{
+        [](UIImagePickerController& picker) { picker.take(); },
+        [](UIImagePickerController& picker) { picker.cancel(); },
+        [this](UIImagePickerController& /*picker*/) { navigation.pop(); },
+    };
+    device.setCameraAvailable(true);
+    for (const auto& leave : waysOut) {
+        pushed<AddMovieViewController>();
+        AddMovieViewController& screen = opened();
+        EXPECT_FALSE(device.isCameraOn());
+        screen.OpenFrontCamera();
+        ASSERT_TRUE(device.isCameraOn());
+        device.letCameraTell(plain(Qt::green));
+        leave(*shownCamera(screen));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(device.isCameraOn());
+    }
+}
+
+TEST_F(CoverTest, APickerThatIsGoneTakesAndCancelsNothing)
+{
+    AddMovieViewController& screen = opened();
+    device.setCameraAvailable(true);
+    screen.OpenFrontCamera();
+    device.letCameraTell(plain(Qt::green));
+    UIImagePickerController& picker = *shownCamera(screen);
+    picker.cancel();
+    screen.PasteImage();
+    picker.cancel();
+    picker.take();
+    EXPECT_TRUE(screen.FrontImageView->image().isNull());
+    EXPECT_EQ(closedAlert(screen), "Clipboard: There is no image in the Clipboard");
 }
 
 TEST_F(CoverTest, AFileIsTakenForWhatItHoldsAndABadOneLeavesTheCover)

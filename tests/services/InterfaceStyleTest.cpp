@@ -1,38 +1,20 @@
 #include "platform/services/PortalInterfaceStyle.h"
+#include "tests/services/PrivateBus.h"
 #include "tests/services/StandInPortal.h"
 
-#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QPalette>
-#include <QProcess>
 #include <gtest/gtest.h>
 
 namespace {
 
-class InterfaceStyleTest : public testing::Test
+class InterfaceStyleTest : public PrivateBusTest<StandInPortal>
 {
 protected:
-    void SetUp() override
-    {
-        daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
-        ASSERT_TRUE(daemon.waitForReadyRead());
-        address = QString::fromUtf8(daemon.readLine().trimmed());
-        portal.emplace(connection("portal"));
-    }
-
     void TearDown() override
     {
-        portal.reset();
-        for (const char* name : {"portal", "program"})
-            QDBusConnection::disconnectFromBus(name);
-        daemon.kill();
-        daemon.waitForFinished();
+        PrivateBusTest::TearDown();
         setDesktopDark(false);
-    }
-
-    [[nodiscard]] QDBusConnection connection(const QString& name) const
-    {
-        return QDBusConnection::connectToBus(address, name);
     }
 
     static void setDesktopDark(bool dark)
@@ -42,20 +24,6 @@ protected:
         palette.setColor(QPalette::WindowText, dark ? Qt::white : Qt::black);
         QGuiApplication::setPalette(palette);
     }
-
-    // False only where something is broken: what is waited for takes milliseconds.
-    template <typename Condition>
-    static bool comesTrue(Condition condition)
-    {
-        const QDeadlineTimer broken(20000);
-        while (!condition() && !broken.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-        return condition();
-    }
-
-    QProcess daemon;
-    QString address;
-    std::optional<StandInPortal> portal;
 };
 
 TEST_F(InterfaceStyleTest, ThePortalOverrulesThePalette)

@@ -1,47 +1,59 @@
 #include "platform/services/Device.h"
+#include "tests/services/FakePrograms.h"
+#include "tests/services/PrivateBus.h"
 #include "tests/support/Home.h"
 
 #include <QClipboard>
 #include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <QPalette>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace {
 
-// A desktop whose one program is the default for addresses of `scheme`.
+// A desktop whose one program, which logs what it is given, is the default for `scheme`'s addresses.
 void installHandlerFor(const QString& scheme)
 {
-    const auto write = [](const QString& path, const QString& content) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content.toUtf8());
-    };
+    FakePrograms::install("handler");
     const QString applications = qEnvironmentVariable("XDG_DATA_HOME") + "/applications";
     ASSERT_TRUE(QDir().mkpath(applications));
     const QString type = "x-scheme-handler/" + scheme;
-    write(applications + "/handler.desktop",
-          "[Desktop Entry]\nType=Application\nName=Handler\nExec=true %u\nMimeType=" + type + ";\n");
-    write(qEnvironmentVariable("XDG_CONFIG_HOME") + "/mimeapps.list",
-          "[Default Applications]\n" + type + "=handler.desktop\n");
+    writeFile(applications + "/handler.desktop", "[Desktop Entry]\nType=Application\nName=Handler\nExec=" +
+                                                     FakePrograms::path("handler").toUtf8() +
+                                                     " %u\nMimeType=" + type.toUtf8() + ";\n");
+    writeFile(qEnvironmentVariable("XDG_CONFIG_HOME") + "/mimeapps.list",
+              "[Default Applications]\n" + type.toUtf8() + "=handler.desktop\n");
 }
 
-int canSendTextWithHandlerFor(const QString& scheme)
+// What the handler of `scheme` is started with for a text, or what can't be done for lack of one.
+void composeWithHandlerFor(const QString& scheme)
 {
+    const FakePrograms programs;
     installHandlerFor(scheme);
-    return makeLinuxDevice()->textMessages->canSendText() ? 1 : 0;
+    const auto device = makeLinuxDevice();
+    if (!device->mail->canSendMail())
+        std::fputs("no mail, ", stderr);
+    const bool isComposed = device->textMessages->compose("A&B?\n%0A=é");
+    if (!device->textMessages->canSendText())
+        std::fputs("no texts, ", stderr);
+    const auto started = [] { return FakePrograms::argumentsOf("handler"); };
+    if (isComposed && comesTrue([&] { return !started().isEmpty(); }))
+        std::fputs(started().join('|').toUtf8().constData(), stderr);
+    std::fputs(device->addressOpener->open(QUrl("https://x.example/?a=b&c")) ? ", web" : ", no web", stderr);
+    std::exit(0);
 }
 
 // The desktop's programs are read once a process, so each case has one of its own.
-TEST(TextMessagesDeathTest, NeedAProgramForMessagesOrMail)
+TEST(LinuxDeviceDeathTest, TextsGoToTheProgramForMessagesElseForMail)
 {
     const Home elsewhere;
     qputenv("XDG_DATA_DIRS", elsewhere.path("none").toUtf8());
     qputenv("XDG_CONFIG_DIRS", elsewhere.path("none").toUtf8());
-    EXPECT_EXIT(std::exit(canSendTextWithHandlerFor("sms")), testing::ExitedWithCode(1), "");
-    EXPECT_EXIT(std::exit(canSendTextWithHandlerFor("mailto")), testing::ExitedWithCode(1), "");
-    EXPECT_EXIT(std::exit(canSendTextWithHandlerFor("https")), testing::ExitedWithCode(0), "");
+    const std::string body = "body=A%26B%3F%0D%0A%250A%3D%C3%A9";
+    const auto exits = testing::ExitedWithCode(0);
+    EXPECT_EXIT(composeWithHandlerFor("sms"), exits, testing::EndsWith("no mail, sms:?" + body + ", no web"));
+    EXPECT_EXIT(composeWithHandlerFor("mailto"), exits, testing::EndsWith("mailto:?" + body + ", no web"));
+    EXPECT_EXIT(composeWithHandlerFor("https"), exits, testing::EndsWith("no mail, no texts, , web"));
 }
 
 int startsWithBus(const char* address)

@@ -14,9 +14,11 @@ Twin* put(std::unique_ptr<Service>& place)
 } // namespace
 
 RecordingDevice::RecordingDevice()
-    : textMessagesTwin(put<RecordingTextMessages>(textMessages))
+    : mailTwin(put<RecordingMail>(mail))
+    , textMessagesTwin(put<RecordingTextMessages>(textMessages))
     , documentsTwin(put<RecordingDocuments>(documents))
     , pasteboardTwin(put<RecordingPasteboard>(pasteboard))
+    , printerTwin(put<RecordingPrinter>(printer))
     , cameraTwin(put<RecordingCamera>(camera))
     , interfaceStyleTwin(put<RecordingInterfaceStyle>(interfaceStyle))
     , addressOpenerTwin(put<RecordingAddressOpener>(addressOpener))
@@ -34,6 +36,24 @@ void RecordingDevice::answerPick()
 {
     if (const auto tell = std::exchange(documentsTwin->picked, nullptr))
         tell(nextPick);
+}
+
+void RecordingDevice::RecordingMail::compose(const MailMessage& message, Told tell)
+{
+    composed.push_back(message);
+    told = std::move(tell);
+}
+
+void RecordingDevice::RecordingPrinter::print(const PrintJob& job, Told tell)
+{
+    printed.push_back(job);
+    told = std::move(tell);
+}
+
+void RecordingDevice::RecordingPrinter::cancelAsking()
+{
+    if (const auto tell = std::exchange(told, nullptr))
+        tell(false, std::nullopt);
 }
 
 void RecordingDevice::RecordingDocuments::pickDocument(const Request& asked, Picked tell)

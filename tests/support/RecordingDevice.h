@@ -11,8 +11,12 @@ struct RecordingDevice : Device
     RecordingDevice();
 
     void setCanSendText(bool can) { textMessagesTwin->can = can; }
+    void setCanSendMail(bool can) { mailTwin->can = can; }
     void setDark(bool dark);
     void setCameraAvailable(bool available) { cameraTwin->available = available; }
+    [[nodiscard]] bool isCameraOn() const { return cameraTwin->told != nullptr; }
+    // The camera must be on.
+    void letCameraTell(const Result<QImage>& seen) { cameraTwin->told(seen); }
 
     // What the next answerPick() tells: a file, or absent for a cancelled dialog.
     std::optional<QUrl> nextPick;
@@ -32,7 +36,31 @@ struct RecordingDevice : Device
     struct RecordingTextMessages : TextMessages
     {
         [[nodiscard]] bool canSendText() const override { return can; }
+        bool compose(const QString& text) override
+        {
+            composed.append(text);
+            return composes;
+        }
         bool can = true;
+        QStringList composed;
+        bool composes = true;
+    };
+    struct RecordingMail : Mail
+    {
+        [[nodiscard]] bool canSendMail() const override { return can; }
+        void compose(const MailMessage& message, Told tell) override;
+        bool can = true;
+        std::vector<MailMessage> composed;
+        // Tells how the last message went; absent: none is waiting for it.
+        Told told;
+    };
+    struct RecordingPrinter : Printer
+    {
+        void print(const PrintJob& job, Told tell) override;
+        void cancelAsking() override;
+        std::vector<PrintJob> printed;
+        // Tells how the last job went; absent: none is waiting for it.
+        Told told;
     };
     struct RecordingDocuments : Documents
     {
@@ -55,8 +83,12 @@ struct RecordingDevice : Device
     };
     struct RecordingCamera : Camera
     {
-        [[nodiscard]] bool isAvailable() const override { return available; }
+        [[nodiscard]] bool isAvailable() override { return available; }
+        void start(Told tell) override { told = std::move(tell); }
+        void stop() override { told = nullptr; }
         bool available = false;
+        // Null while it is off.
+        Told told;
     };
     struct RecordingInterfaceStyle : InterfaceStyle
     {
@@ -81,9 +113,11 @@ struct RecordingDevice : Device
         std::vector<UIWindowScene*> asked;
     };
 
+    RecordingMail* mailTwin;
     RecordingTextMessages* textMessagesTwin;
     RecordingDocuments* documentsTwin;
     RecordingPasteboard* pasteboardTwin;
+    RecordingPrinter* printerTwin;
     RecordingCamera* cameraTwin;
     RecordingInterfaceStyle* interfaceStyleTwin;
     RecordingAddressOpener* addressOpenerTwin;

@@ -1,0 +1,37 @@
+#include "platform/services/AttachmentFiles.h"
+
+#include "platform/services/FileBytes.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+constexpr auto onlyForOwner = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+
+bool writeAttachment(const MailAttachment& attachment, const QString& path)
+{
+    QFile target(path);
+    if (!target.open(QIODevice::WriteOnly | QIODevice::NewOnly, onlyForOwner))
+        return false;
+    const auto* bytes = std::get_if<QByteArray>(&attachment.content);
+    const bool isWritten = bytes != nullptr
+                               ? target.write(*bytes) == bytes->size()
+                               : copyBytes(std::get<QUrl>(attachment.content).toLocalFile(), target).ok();
+    return isWritten && target.flush();
+}
+
+} // namespace
+
+Result<QStringList> writeAttachments(const QString& folder, const std::vector<MailAttachment>& attachments)
+{
+    QStringList paths;
+    for (const MailAttachment& attachment : attachments) {
+        // Two of them may have one name.
+        const QString place = QStringLiteral("%1/%2").arg(folder).arg(paths.size() + 1);
+        paths.append(place + QLatin1Char('/') + attachment.fileName);
+        if (folder.isEmpty() || !QDir().mkpath(place) || !writeAttachment(attachment, paths.last()))
+            return NSError{QStringLiteral("%1 could not be attached.").arg(attachment.fileName), {}};
+    }
+    return paths;
+}

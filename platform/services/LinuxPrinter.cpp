@@ -1,0 +1,139 @@
+#include "platform/services/LinuxPrinter.h"
+
+#include "platform/services/Device.h"
+#include "platform/services/DialogStacking.h"
+#include "platform/services/FileBytes.h"
+#include "platform/services/InBackground.h"
+#include "platform/services/MailText.h"
+#include "platform/services/PdfRendering.h"
+#include "platform/services/PendingPrint.h"
+#include "platform/services/PrintTarget.h"
+#include "platform/services/Spooler.h"
+
+#include <QGuiApplication>
+#include <QLocale>
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace {
+
+QPageLayout pageOfTheCountry()
+{
+    const bool usesLetter = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
+    return {QPageSize(usesLetter ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
+            QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter};
+}
+
+QString fileNameFor(const QString& job)
+{
+    const QString ending = QStringLiteral(".pdf");
+    const QString name = harmlessFileName(job);
+    return name.endsWith(ending, Qt::CaseInsensitive) ? name : name + ending;
+}
+
+template <typename Outcome>
+QString sentenceOf(const Outcome& outcome)
+{
+    return outcome ? QString() : outcome.error().localizedDescription;
+}
+
+} // namespace
+
+LinuxPrinter::LinuxPrinter(std::chrono::milliseconds patience)
+    : patience(patience)
+{
+}
+
+LinuxPrinter::~LinuxPrinter()
+{
+    cancelAsking();
+}
+
+void LinuxPrinter::print(const PrintJob& job, Told told)
+{
+    cancelAsking();
+    asking = std::make_shared<PendingPrint>(job, std::move(told));
+    askForQueues(works, patience, [this, asked = std::weak_ptr(asking)](bool hasQueues) {
+        if (asked.expired())
+            return;
+        if (hasQueues)
+            openDialog();
+        else
+            offerAsFile(std::exchange(asking, nullptr));
+    });
+}
+
+void LinuxPrinter::cancelAsking()
+{
+    // Told last: what is told may print again.
+    const Job cancelled = std::exchange(asking, nullptr);
+    if (dialog)
+        dialog->reject();
+}
+
+void LinuxPrinter::openDialog()
+{
+    QWindow* window = QGuiApplication::focusWindow();
+    const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setDocName(harmlessFileName(asking->job.name));
+    dialog = new QPrintDialog(printer.get());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setOption(QAbstractPrintDialog::PrintPageRange, false);
+    stackAbove(*dialog, window);
+    QObject::connect(dialog, &QDialog::finished, &works, [this, printer](int result) {
+        dialog.clear();
+        const Job job = std::exchange(asking, nullptr);
+        if (job && result == QDialog::Accepted)
+            send(job, PrintTarget::of(*printer));
+    });
+    dialog->open();
+}
+
+void LinuxPrinter::send(const Job& job, const PrintTarget& target)
+{
+    withPages(job, target.layout, [this, job, target](const QString& pages) {
+        const auto told = [job](const QString& problem) { job->end(problem); };
+        if (target.file.isEmpty())
+            spool(works, target, job->job.name, pages, told);
+        else
+            inBackground(
+                works, [pages, file = target.file] { return copyFile(pages, file); },
+                [told](const Status& copied) { told(sentenceOf(copied)); });
+    });
+}
+
+void LinuxPrinter::offerAsFile(const Job& job)
+{
+    const auto offer = [job](const Result<QByteArray>& pages) {
+        if (!pages) {
+            job->end(sentenceOf(pages));
+            return;
+        }
+        // A cancelled dialog tells nothing, but lets go of the job.
+        Device::current().documents->saveDocument(fileNameFor(job->job.name), pages.value(),
+                                                  [job](const QString& problem) { job->end(problem); });
+    };
+    withPages(job, pageOfTheCountry(), [this, offer](const QString& path) {
+        inBackground(
+            works, [path] { return readFile(path); }, offer);
+    });
+}
+
+void LinuxPrinter::withPages(const Job& job, const QPageLayout& layout,
+                             const std::function<void(const QString&)>& then)
+{
+    if (const auto* file = std::get_if<PrintableFile>(&job->job.content)) {
+        then(file->path);
+        return;
+    }
+    const QString path = job->folder() + QStringLiteral("/pages.pdf");
+    const auto render = [content = job->job.content, layout, name = job->job.name, path] {
+        return renderPdf(content, layout, name, path);
+    };
+    inBackground(works, render, [job, path, then](const Status& rendered) {
+        if (rendered)
+            then(path);
+        else
+            job->end(sentenceOf(rendered));
+    });
+}

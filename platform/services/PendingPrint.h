@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/services/Printer.h"
+
+#include <QTemporaryDir>
+
+// A print job on its way: whoever holds it last without telling how it went has cancelled it.
+class PendingPrint
+{
+public:
+    PendingPrint(PrintJob job, Printer::Told told);
+    ~PendingPrint();
+    PendingPrint(const PendingPrint&) = delete;
+    PendingPrint& operator=(const PendingPrint&) = delete;
+
+    const PrintJob job;
+    // Of the job's own, private to the user; goes with it.
+    [[nodiscard]] QString folder() const { return directory.path(); }
+
+    // The empty `problem`: it was sent.
+    void end(const QString& problem);
+
+private:
+    void tell(bool completed, const std::optional<NSError>& error);
+
+    QTemporaryDir directory;
+    Printer::Told told;
+};

@@ -26,7 +26,8 @@ QString titleOf(const Row& row, int movieCount)
 
 QString figureText(double figure, Unit unit)
 {
-    return QString::number(figure, 'f', 1) +
+    constexpr double small = 1;
+    return QString::number(figure, 'f', figure < small ? 3 : 1) +
            (unit == Unit::Milliseconds ? QStringLiteral(" ms") : QStringLiteral(" MiB"));
 }
 
@@ -56,10 +57,21 @@ const std::vector<Row>& rows()
         {.name = QStringLiteral("search"),
          .title = QStringLiteral("a search keystroke over %1 movies"),
          .bar = 2.5},
+        {.name = QStringLiteral("summary"),
+         .title = QStringLiteral("drawing one summary row of %1 movies"),
+         .bar = 3},
         {.name = QStringLiteral("import"),
          .title = QStringLiteral("import of %1 lines"),
          .divisor = 5,
          .bar = 2},
+        {.name = QStringLiteral("export"),
+         .title = QStringLiteral("export of %1 covers"),
+         .divisor = 20,
+         .bar = 1.2},
+        {.name = QStringLiteral("report"),
+         .title = QStringLiteral("report of %1 movies with covers"),
+         .divisor = 20,
+         .bar = 1.3},
         {.name = QStringLiteral("start"),
          .title = QStringLiteral("start to first frame, %1 movies"),
          .divisor = 10,

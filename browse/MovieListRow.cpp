@@ -1,8 +1,6 @@
 #include "browse/MovieListRow.h"
 
 #include "platform/foundation/DateFormatter.h"
-#include "platform/toolkit/UIImage.h"
-#include "resources/Resources.h"
 
 namespace {
 
@@ -45,17 +43,6 @@ RowTexts upperTexts(const Movies& movie, const QString& sortName)
                                  blank + genrePart(movie) + blank + ratingPart(movie)};
 }
 
-QString longDate(const QDateTime& date)
-{
-    // Making a formatter costs more than using it, and every row needs one.
-    static const DateFormatter formatter = [] {
-        DateFormatter longStyle;
-        longStyle.setDateStyle(DateStyle::Long);
-        return longStyle;
-    }();
-    return formatter.stringFrom(date);
-}
-
 QString watchedText(const Movies& movie, const QString& sortName)
 {
     const QString runTime = QString::number(movie.runTime());
@@ -63,28 +50,14 @@ QString watchedText(const Movies& movie, const QString& sortName)
     if (!date)
         return QStringLiteral("Date Watched: N/A  Run Time: ") + runTime;
     const QString unit = sortName == QStringLiteral("MovieName") ? QStringLiteral(" min") : QString();
-    return QStringLiteral("Date Watched: ") + longDate(*date) + QStringLiteral(" Run Time: ") + runTime +
+    return QStringLiteral("Date Watched: ") + longDateText(*date) + QStringLiteral(" Run Time: ") + runTime +
            unit;
-}
-
-QImage coverOf(const Movies& movie)
-{
-    const std::optional<QByteArray> cover = movie.frontCover();
-    return cover ? imageWithData(*cover) : movieLogo();
 }
 
 } // namespace
 
 MainListTableViewCell movieListRow(const Movies& movie, const QString& sortName, bool blackText)
 {
-    const auto label = [blackText](const QString& text) {
-        return LabelContent{.text = text, .textColor = blackText ? QColor(Qt::black) : QColor()};
-    };
     const auto [first, second] = upperTexts(movie, sortName);
-    MainListTableViewCell cell;
-    cell.MovieNameLabel = label(first);
-    cell.SecondLabel = label(second);
-    cell.ThirdLabel = label(watchedText(movie, sortName));
-    cell.FrontImage = coverOf(movie);
-    return cell;
+    return movieTableViewCell({first, second, watchedText(movie, sortName)}, movie, blackText);
 }

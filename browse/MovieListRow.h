@@ -1,7 +1,8 @@
 #pragma once
 
-#include "browse/MainListTableViewCell.h"
-#include "model/Movies.h"
+#include "model/MovieTableViewCell.h"
+
+using MainListTableViewCell = MovieTableViewCell;
 
 // The row that shows `movie` in a list sorted by `sortName`. `blackText`: the list is in dark style, where
 // the row stays light.

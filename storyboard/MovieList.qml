@@ -31,40 +31,20 @@ Scene {
     ]
 
     Shortcut {
-        sequences: ["Ctrl+F"]
-        enabled: root.activeFocus
-        onActivated: search.begin()
-    }
-
-    Shortcut {
         sequences: ["Ctrl+N"]
         enabled: root.activeFocus
         onActivated: addButton.press()
     }
 
-    SearchBar {
-        id: search
-
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: 8
-        width: Math.min(parent.width, Theme.columnWidth + 2 * Theme.margin) - 2 * Theme.gap
-        outlet: root.screen.searchController.searchBar
-        onEdited: table.showTop()
-        onFinished: table.forceActiveFocus()
-    }
-
-    Table {
-        id: table
-
-        anchors.top: search.bottom
-        anchors.topMargin: 8
-        anchors.bottom: parent.bottom
-        width: parent.width
+    SearchedTable {
+        anchors.fill: parent
         focus: true
         name: "Movies"
+        searchController: root.screen.searchController
         outlet: root.screen.tableView
         segue: "EditMovie"
-        emptyText: search.searching ? "No movie matches the search." : "No movies yet.\nAdd the first one you have watched with +."
+        emptyText: "No movies yet.\nAdd the first one you have watched with +."
+        nothingFoundText: "No movie matches the search."
         delegate: MovieRow {
             table: root.screen.tableView
         }

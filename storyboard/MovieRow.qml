@@ -1,5 +1,5 @@
 import QtQuick
-import Marrowvale.Browse
+import Marrowvale.Model
 import Marrowvale.Controls
 import Marrowvale.Toolkit
 
@@ -7,7 +7,7 @@ import Marrowvale.Toolkit
 SwipeRow {
     id: row
 
-    required property mainListTableViewCell cell
+    required property movieTableViewCell cell
 
     component Line: Label {
         required property labelContent content

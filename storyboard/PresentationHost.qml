@@ -27,6 +27,10 @@ Item {
             host.show("ShareSheet.qml", {
                 activities: host.presented
             });
+        else if (kind === "camera")
+            host.show("CameraSheet.qml", {
+                picker: host.presented
+            });
     }
 
     // By address: what no screen has presented yet need not be loaded.

@@ -3,8 +3,10 @@
 #include "platform/foundation/Console.h"
 #include "platform/services/Device.h"
 #include "platform/services/UIActivityViewController.h"
+#include "platform/services/UIImagePickerController.h"
 #include "platform/toolkit/UIAlertController.h"
 #include "platform/toolkit/UIBarButtonItem.h"
+#include "platform/toolkit/UITabBarController.h"
 #include "storyboard/LayoutBinding.h"
 #include "storyboard/SceneTable.h"
 
@@ -30,20 +32,24 @@ SceneStage::SceneStage(QQmlEngine& engine, QObject* parent)
     , storyboard([this](UIViewController& controller) { loadLayout(controller); })
     , navigationController(storyboard)
 {
-    connect(&navigationController, &UINavigationController::pushed, this,
-            [this](UIViewController* controller) { Q_EMIT pushed(items.value(controller)); });
-    connect(&navigationController, &UINavigationController::popped, this,
-            [this](const std::shared_ptr<UIViewController>& controller) {
-                QQuickItem* item = items.take(controller.get());
-                leaving.insert(item, controller);
-                Q_EMIT popped(item);
-            });
 }
 
 SceneStage::~SceneStage()
 {
-    qDeleteAll(leaving.keys());
-    qDeleteAll(items);
+    // While the screens that the layouts read are still there; layouts before the stages that they show.
+    delete stages.take(&navigationController);
+    qDeleteAll(stages.values());
+}
+
+NavigationStage* SceneStage::stageOf(UINavigationController* controller)
+{
+    NavigationStage*& stage = stages[controller];
+    if (stage == nullptr) {
+        stage = new NavigationStage(*controller, this);
+        connect(controller, &QObject::destroyed, stage,
+                [this, controller] { delete stages.take(controller); });
+    }
+    return stage;
 }
 
 InterfaceStyle* SceneStage::interfaceStyle()
@@ -57,16 +63,9 @@ QString SceneStage::presentation(UIViewController* controller) const
         return QStringLiteral("alert");
     if (qobject_cast<UIActivityViewController*>(controller) != nullptr)
         return QStringLiteral("activity");
+    if (qobject_cast<UIImagePickerController*>(controller) != nullptr)
+        return QStringLiteral("camera");
     return {};
-}
-
-void SceneStage::release(QQuickItem* item)
-{
-    if (!leaving.contains(item))
-        return;
-    // The layout goes first: its bindings read the screen.
-    delete item;
-    leaving.remove(item);
 }
 
 void SceneStage::loadLayout(UIViewController& controller)
@@ -77,7 +76,7 @@ void SceneStage::loadLayout(UIViewController& controller)
         fatalError(QStringLiteral("The layout of %1 lacks: %2")
                        .arg(QString::fromLatin1(controller.metaObject()->className()),
                             missing.join(QStringLiteral(", "))));
-    items.insert(&controller, item);
+    stageOf(controller.navigationController())->add(controller, item);
 }
 
 QQuickItem* SceneStage::makeItem(UIViewController& controller)
@@ -88,8 +87,10 @@ QQuickItem* SceneStage::makeItem(UIViewController& controller)
         fatalError(component.isLoading()
                        ? QStringLiteral("A layout needs itself: ") + component.url().toString()
                        : component.errorString());
-    QObject* made = component.createWithInitialProperties(
-        {{QStringLiteral("screen"), QVariant::fromValue<QObject*>(&controller)}});
+    QVariantMap properties{{QStringLiteral("screen"), QVariant::fromValue<QObject*>(&controller)}};
+    if (qobject_cast<UITabBarController*>(&controller) != nullptr)
+        properties.insert(QStringLiteral("stage"), QVariant::fromValue(this));
+    QObject* made = component.createWithInitialProperties(properties);
     auto* item = qobject_cast<QQuickItem*>(made);
     if (item == nullptr)
         fatalError(component.errorString());

@@ -2,7 +2,6 @@
 
 #include "browse/DefaultsViewController.h"
 #include "browse/MainListTableViewController.h"
-#include "browse/PlaceholderViewController.h"
 #include "browse/ViewController.h"
 #include "editing/AddMovieViewController.h"
 #include "editing/EditMovieViewController.h"
@@ -11,8 +10,14 @@
 #include "editing/ReferenceListScreens.h"
 #include "editing/ReferenceListViewController.h"
 #include "editing/ZoomViewController.h"
+#include "exchange/ExportViewController.h"
 #include "exchange/ImportExportViewController.h"
 #include "exchange/ImportViewController.h"
+#include "exchange/PrintMoviesViewController.h"
+#include "feedback/RateShareTableViewController.h"
+#include "summaries/BreakdownScreens.h"
+#include "summaries/GroupScreens.h"
+#include "summaries/GroupTabBarController.h"
 
 namespace {
 
@@ -34,19 +39,82 @@ SegueDescription show(const QString& identifier)
     return {nameOf<Source>(), identifier, {[] { return std::make_unique<Destination>(); }, {}}};
 }
 
-// A screen that is not there yet: a plain one says what will be there.
-template <typename Source>
-SegueDescription announce(const QString& identifier, const QString& title, const QString& message)
-{
-    return {nameOf<Source>(),
-            identifier,
-            {[=] { return std::make_unique<PlaceholderViewController>(title, message); }, {}}};
-}
-
 template <typename Source>
 SegueDescription unwind(const QString& identifier, const QString& action)
 {
     return {nameOf<Source>(), identifier, {nullptr, action}};
+}
+
+// A reference list with the screens that add and change its values; these come back by `back`.
+template <typename List, typename Add, typename Edit>
+void addReferenceList(std::vector<SegueDescription>& table, const QString& identifier, const QString& back)
+{
+    const QString action = back + QStringLiteral("WithSegue");
+    table.push_back(show<ReferenceListViewController, List>(identifier));
+    table.push_back(show<List, Add>(QStringLiteral("AddReference")));
+    table.push_back(show<List, Edit>(QStringLiteral("EditReference")));
+    table.push_back(unwind<Add>(back, action));
+    table.push_back(unwind<Edit>(back, action));
+}
+
+// A group summary with the list of one of its groups; the update screen comes back to that by `back`.
+template <typename Summary, typename Breakdown>
+void addSummary(std::vector<SegueDescription>& table, const QString& back)
+{
+    table.push_back(unwind<Summary>(QStringLiteral("unwindToMenu"), QStringLiteral("unwindToMenuWithSegue")));
+    table.push_back(show<Summary, Breakdown>(QStringLiteral("Breakdown")));
+    table.push_back(show<Breakdown, PrintMoviesViewController>(QStringLiteral("Print")));
+    table.push_back(show<Breakdown, EditMovieViewController>(QStringLiteral("EditMovie")));
+    table.push_back(unwind<EditMovieViewController>(back, back + QStringLiteral("WithSegue")));
+}
+
+std::vector<SegueDescription> plainSegues()
+{
+    static const QString toMenu = QStringLiteral("unwindToMenuWithSegue");
+    static const QString toList = QStringLiteral("unwindToListWithSegue");
+    return {
+        show<ViewController, MainListTableViewController>(QStringLiteral("MovieList")),
+        show<ViewController, AddMovieViewController>(QStringLiteral("AddMovie")),
+        show<ViewController, GroupTabBarController>(QStringLiteral("TabBarController")),
+        show<ViewController, DefaultsViewController>(QStringLiteral("Settings")),
+        show<ViewController, PrintMoviesViewController>(QStringLiteral("Print")),
+        show<ViewController, ReferenceListViewController>(QStringLiteral("ReferenceLists")),
+        show<ViewController, ImportExportViewController>(QStringLiteral("ImportExport")),
+        show<ViewController, RateShareTableViewController>(QStringLiteral("RateShare")),
+        show<MainListTableViewController, AddMovieViewController>(QStringLiteral("AddMovie")),
+        show<MainListTableViewController, EditMovieViewController>(QStringLiteral("EditMovie")),
+        show<EditMovieViewController, ZoomViewController>(QStringLiteral("Zoom")),
+        unwind<EditMovieViewController>(QStringLiteral("unwindToList"), toList),
+        unwind<AddMovieViewController>(QStringLiteral("unwindToList"), toList),
+        unwind<AddMovieViewController>(QStringLiteral("unwindToMenu"), toMenu),
+        show<ImportExportViewController, ImportViewController>(QStringLiteral("Import")),
+        show<ImportExportViewController, ExportViewController>(QStringLiteral("Export")),
+        unwind<ImportViewController>(QStringLiteral("unwindToMenu"), toMenu),
+    };
+}
+
+std::vector<SegueDescription> allSegues()
+{
+    std::vector<SegueDescription> table = plainSegues();
+    addReferenceList<GenreReferenceListTableViewController, AddGenreViewController, EditGenreViewController>(
+        table, QStringLiteral("Genres"), QStringLiteral("unwindToGenreTableView"));
+    addReferenceList<ProviderReferenceListTableViewController, AddProviderViewController,
+                     EditProviderViewController>(table, QStringLiteral("Providers"),
+                                                 QStringLiteral("unwindToProviderTableView"));
+    addReferenceList<RatingReferenceListTableViewController, AddRatingViewController,
+                     EditRatingViewController>(table, QStringLiteral("Ratings"),
+                                               QStringLiteral("unwindToRatingTableView"));
+    addSummary<GenreGroupTableViewController, GenreBreakdownTableViewController>(
+        table, QStringLiteral("unwindToGenreBreakdownTableView"));
+    addSummary<DateReleasedGroupTableViewController, DateReleasedBreakdownTableViewController>(
+        table, QStringLiteral("unwindToDateReleasedBreakdownTableView"));
+    addSummary<DateWatchedGroupTableViewController, DateWatchedBreakdownTableViewController>(
+        table, QStringLiteral("unwindToDateWatchedBreakdownTableView"));
+    addSummary<RatingGroupTableViewController, RatingBreakdownTableViewController>(
+        table, QStringLiteral("unwindToRatingBreakdownTableView"));
+    addSummary<ProviderGroupTableViewController, ProviderBreakdownTableViewController>(
+        table, QStringLiteral("unwindToProviderBreakdownTableView"));
+    return table;
 }
 
 } // namespace
@@ -55,6 +123,8 @@ const std::vector<SceneDescription>& sceneDescriptions()
 {
     static const QString referenceList = QStringLiteral("ReferenceList");
     static const QString referenceValue = QStringLiteral("ReferenceValue");
+    static const QString summary = QStringLiteral("GroupSummary");
+    static const QString breakdown = QStringLiteral("Breakdown");
     static const std::vector<SceneDescription> table{
         scene<ViewController>(QStringLiteral("Home")),
         scene<MainListTableViewController>(QStringLiteral("MovieList")),
@@ -74,62 +144,26 @@ const std::vector<SceneDescription>& sceneDescriptions()
         scene<EditGenreViewController>(referenceValue),
         scene<EditProviderViewController>(referenceValue),
         scene<EditRatingViewController>(referenceValue),
-        scene<PlaceholderViewController>(QStringLiteral("Placeholder")),
+        scene<GroupTabBarController>(QStringLiteral("TabBar")),
+        scene<GenreGroupTableViewController>(summary),
+        scene<DateReleasedGroupTableViewController>(summary),
+        scene<DateWatchedGroupTableViewController>(summary),
+        scene<RatingGroupTableViewController>(summary),
+        scene<ProviderGroupTableViewController>(summary),
+        scene<GenreBreakdownTableViewController>(breakdown),
+        scene<DateReleasedBreakdownTableViewController>(breakdown),
+        scene<DateWatchedBreakdownTableViewController>(breakdown),
+        scene<RatingBreakdownTableViewController>(breakdown),
+        scene<ProviderBreakdownTableViewController>(breakdown),
+        scene<ExportViewController>(QStringLiteral("Export")),
+        scene<PrintMoviesViewController>(QStringLiteral("Print")),
+        scene<RateShareTableViewController>(QStringLiteral("RateShare")),
     };
     return table;
 }
 
 const std::vector<SegueDescription>& segueDescriptions()
 {
-    static const QString toMenu = QStringLiteral("unwindToMenuWithSegue");
-    static const QString toList = QStringLiteral("unwindToListWithSegue");
-    static const QString add = QStringLiteral("AddReference");
-    static const QString edit = QStringLiteral("EditReference");
-    static const QString toGenres = QStringLiteral("unwindToGenreTableView");
-    static const QString toProviders = QStringLiteral("unwindToProviderTableView");
-    static const QString toRatings = QStringLiteral("unwindToRatingTableView");
-    static const QString withSegue = QStringLiteral("WithSegue");
-    static const std::vector<SegueDescription> table{
-        show<ViewController, MainListTableViewController>(QStringLiteral("MovieList")),
-        show<ViewController, AddMovieViewController>(QStringLiteral("AddMovie")),
-        announce<ViewController>(
-            QStringLiteral("TabBarController"), QStringLiteral("Group By"),
-            QStringLiteral("Your movies grouped and counted by genre, year released, date "
-                           "watched, rating and provider will be here.")),
-        show<ViewController, DefaultsViewController>(QStringLiteral("Settings")),
-        announce<ViewController>(QStringLiteral("Print"), QStringLiteral("Print"),
-                                 QStringLiteral("The movie list will be printed from here.")),
-        show<ViewController, ReferenceListViewController>(QStringLiteral("ReferenceLists")),
-        show<ViewController, ImportExportViewController>(QStringLiteral("ImportExport")),
-        announce<ViewController>(QStringLiteral("RateShare"), QStringLiteral("Rate/Share"),
-                                 QStringLiteral("Reviews, sharing and feedback will be here.")),
-        show<MainListTableViewController, AddMovieViewController>(QStringLiteral("AddMovie")),
-        show<MainListTableViewController, EditMovieViewController>(QStringLiteral("EditMovie")),
-        show<EditMovieViewController, ZoomViewController>(QStringLiteral("Zoom")),
-        unwind<EditMovieViewController>(QStringLiteral("unwindToList"), toList),
-        unwind<AddMovieViewController>(QStringLiteral("unwindToList"), toList),
-        unwind<AddMovieViewController>(QStringLiteral("unwindToMenu"), toMenu),
-        show<ImportExportViewController, ImportViewController>(QStringLiteral("Import")),
-        announce<ImportExportViewController>(QStringLiteral("Export"), QStringLiteral("Export Movies"),
-                                             QStringLiteral("The exchange file will be made here.")),
-        unwind<ImportViewController>(QStringLiteral("unwindToMenu"), toMenu),
-        show<ReferenceListViewController, GenreReferenceListTableViewController>(QStringLiteral("Genres")),
-        show<ReferenceListViewController, ProviderReferenceListTableViewController>(
-            QStringLiteral("Providers")),
-        show<ReferenceListViewController, RatingReferenceListTableViewController>(QStringLiteral("Ratings")),
-        show<GenreReferenceListTableViewController, AddGenreViewController>(add),
-        show<GenreReferenceListTableViewController, EditGenreViewController>(edit),
-        unwind<AddGenreViewController>(toGenres, toGenres + withSegue),
-        unwind<EditGenreViewController>(toGenres, toGenres + withSegue),
-        show<ProviderReferenceListTableViewController, AddProviderViewController>(add),
-        show<ProviderReferenceListTableViewController, EditProviderViewController>(edit),
-        unwind<AddProviderViewController>(toProviders, toProviders + withSegue),
-        unwind<EditProviderViewController>(toProviders, toProviders + withSegue),
-        show<RatingReferenceListTableViewController, AddRatingViewController>(add),
-        show<RatingReferenceListTableViewController, EditRatingViewController>(edit),
-        unwind<AddRatingViewController>(toRatings, toRatings + withSegue),
-        unwind<EditRatingViewController>(toRatings, toRatings + withSegue),
-        unwind<PlaceholderViewController>(QStringLiteral("unwindToMenu"), toMenu),
-    };
+    static const std::vector<SegueDescription> table = allSegues();
     return table;
 }

@@ -23,5 +23,9 @@ void shareMovies(Tour& tour);
 void changeSettings(Tour& tour);
 // A genre added, renamed and deleted; the ratings and the providers.
 void keepReferenceLists(Tour& tour);
-// The remaining ways out of the menu and of the list, and back by button and keyboard.
+// Every kind of group, the movies of one, their report and their printed list.
+void groupMovies(Tour& tour);
+// The exchange file, and what stands under "Rate/Share".
+void sendOut(Tour& tour);
+// The list, by keyboard alone.
 void lookAround(Tour& tour);

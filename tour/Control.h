@@ -39,6 +39,10 @@ inline Control heading(const QString& name)
 {
     return {QAccessible::Heading, name};
 }
+inline Control tab(const QString& name)
+{
+    return {QAccessible::PageTab, name};
+}
 inline Control text(const QString& name)
 {
     return {QAccessible::StaticText, name};

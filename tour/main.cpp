@@ -35,6 +35,8 @@ void play(const QString& outputFolder, const QString& exchangeFile, const TourHo
         editMovie(tour);
         changeSettings(tour);
         keepReferenceLists(tour);
+        groupMovies(tour);
+        sendOut(tour);
         lookAround(tour);
         tour.step("That was the tour");
     } catch (const TourError&) {

@@ -6,12 +6,22 @@ Rectangle {
 
     property string title
     property bool canGoBack: false
+    // Stands in the back button's place.
+    property BarButton leadingItem: null
     default property alias items: buttons.data
 
     signal backRequested
 
     implicitHeight: Theme.barHeight
     color: Theme.shades.surface
+
+    onLeadingItemChanged: {
+        if (leadingItem === null)
+            return;
+        leadingItem.parent = bar;
+        leadingItem.x = 4;
+        leadingItem.anchors.verticalCenter = bar.verticalCenter;
+    }
 
     BarButton {
         id: back
@@ -28,7 +38,8 @@ Rectangle {
     Label {
         id: heading
 
-        readonly property real from: back.visible ? back.x + back.width + 4 : Theme.margin
+        readonly property Item leading: bar.leadingItem !== null ? bar.leadingItem : back
+        readonly property real from: leading.visible ? leading.x + leading.width + 4 : Theme.margin
         readonly property real to: buttons.x - 4
 
         x: Math.max(from, Math.min((bar.width - width) / 2, to - width))

@@ -2,23 +2,25 @@ import QtQuick
 import QtQuick.Templates as T
 import Marrowvale.Toolkit
 
-// The frame of every layout: navigation bar, content, and the panel in the keyboard's place. Made before its
-// screen is on the stack: the window's root layout sets `navigation` and `navigationDepth`.
-FocusScope {
+// The frame of most layouts: navigation bar, content, and the panel in the keyboard's place.
+Layout {
     id: scene
 
-    required property UIViewController controller
     // Shown where the screen has no title of its own.
     property string title
-    property UINavigationController navigation: null
-    property int navigationDepth: 1
+    // Leads out of the stack, where there is nothing below.
+    property BarButton homeButton: null
     property alias barItems: itemRow.data
     default property alias content: body.data
     readonly property bool canGoBack: navigationDepth > 1
 
     function goBack() {
-        if (scene.canGoBack && scene.T.StackView.status === T.StackView.Active)
+        if (scene.T.StackView.status !== T.StackView.Active)
+            return;
+        if (scene.canGoBack)
             scene.navigation.pop();
+        else if (scene.homeButton !== null)
+            scene.homeButton.press();
     }
 
     Keys.onEscapePressed: {
@@ -52,6 +54,7 @@ FocusScope {
         visible: openness > 0
         title: scene.controller.title.length > 0 ? scene.controller.title : scene.title
         canGoBack: scene.canGoBack
+        leadingItem: scene.homeButton
         onBackRequested: scene.goBack()
 
         Row {
@@ -89,7 +92,7 @@ FocusScope {
         DragHandler {
             target: null
             yAxis.enabled: false
-            enabled: scene.canGoBack
+            enabled: scene.canGoBack || scene.homeButton !== null
             onActiveTranslationChanged: if (active && activeTranslation.x > 60)
                 scene.goBack()
         }

@@ -17,7 +17,7 @@ FocusScope {
     signal triggered
 
     function showTop() {
-        list.positionViewAtBeginning();
+        list.contentY = list.originY - list.topMargin;
     }
 
     Connections {

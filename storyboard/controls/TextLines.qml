@@ -2,53 +2,27 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Marrowvale.Controls
 import Marrowvale.Toolkit
 
-// A long text to read: it is cut into pieces, and only those in sight are laid out.
+// A long text with its pictures: only the pieces in sight are laid out.
 Rectangle {
     id: view
 
     required property UITextView outlet
+    // Told to assistive technology.
+    property string name: "File Text"
     property string emptyText
-    readonly property int longestPiece: 2000
-    property var pieces: []
-    property string shownText
-
-    function show() {
-        if (view.outlet.text === view.shownText)
-            return;
-        view.shownText = view.outlet.text;
-        view.pieces = view.cut(view.shownText);
-    }
-
-    // Between lines where there are any.
-    function cut(text: string): var {
-        const made = [];
-        for (let from = 0; from < text.length;) {
-            const piece = text.slice(from, from + view.longestPiece);
-            const lineEnd = from + piece.length < text.length ? piece.lastIndexOf("\n") : -1;
-            made.push(lineEnd < 0 ? piece : piece.slice(0, lineEnd));
-            from += lineEnd < 0 ? piece.length : lineEnd + 1;
-        }
-        return made;
-    }
+    property Shades shades: Theme.shades
 
     radius: outlet.layer.cornerRadius > 0 ? outlet.layer.cornerRadius : 10
-    color: Theme.shades.field
+    color: shades.field
     border.width: 1
-    border.color: Theme.shades.divider
-
-    Component.onCompleted: show()
-
-    Connections {
-        target: view.outlet
-
-        function onChanged() {
-            view.show();
-        }
-    }
+    border.color: shades.divider
 
     ListView {
+        id: list
+
         anchors.fill: parent
         anchors.margins: 1
         leftMargin: 10
@@ -57,32 +31,67 @@ Rectangle {
         bottomMargin: 8
         clip: true
         activeFocusOnTab: true
-        model: view.pieces.length
-        reuseItems: true
+        model: view.outlet.pieces
         boundsBehavior: Flickable.StopAtBounds
 
         Keys.onDownPressed: flick(0, -600)
         Keys.onUpPressed: flick(0, 600)
 
         Accessible.role: Accessible.List
-        Accessible.name: "File Text"
+        Accessible.name: view.name
 
         T.ScrollBar.vertical: ScrollBar {}
 
-        delegate: Label {
+        delegate: Item {
+            id: line
+
             required property int index
+            required property textPiece piece
+            readonly property bool isPicture: piece.imageSize.width > 0
 
             width: ListView.view.width - 20
-            text: view.pieces[index]
-            wrapMode: Text.WrapAnywhere
-            font.pixelSize: Theme.small
+            height: isPicture ? piece.imageSize.height : edit.implicitHeight
+
+            ImageItem {
+                visible: line.isPicture
+                width: line.piece.imageSize.width
+                height: line.piece.imageSize.height
+                image: line.piece.image // qmllint disable
+                fillMode: ImageItem.Stretch
+            }
+
+            TextEdit {
+                id: edit
+
+                width: parent.width
+                visible: !line.isPicture
+                text: line.piece.text
+                readOnly: !view.outlet.editable
+                selectByMouse: !readOnly
+                textFormat: TextEdit.PlainText
+                wrapMode: TextEdit.Wrap
+                horizontalAlignment: line.piece.centred ? TextEdit.AlignHCenter : TextEdit.AlignLeft
+                color: view.shades.text
+                selectionColor: view.shades.accent
+                selectedTextColor: view.shades.accentText
+                font.family: Theme.fontFamily
+                font.pixelSize: line.piece.fontSize > 0 ? line.piece.fontSize : Theme.small
+
+                Accessible.role: readOnly ? Accessible.StaticText : Accessible.EditableText
+                Accessible.name: readOnly ? text : view.name
+                Accessible.editable: !readOnly
+                Accessible.multiLine: true
+
+                onTextChanged: if (activeFocus && text !== line.piece.text)
+                    view.outlet.editPiece(line.index, text)
+            }
         }
     }
 
     Label {
         anchors.centerIn: parent
-        visible: view.shownText.length === 0
+        visible: list.count === 0
         text: view.emptyText
-        color: Theme.shades.secondary
+        color: view.shades.secondary
     }
 }

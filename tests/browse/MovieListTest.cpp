@@ -1,5 +1,5 @@
-#include "browse/MainListTableViewCell.h"
 #include "browse/MainListTableViewController.h"
+#include "browse/MovieListRow.h"
 #include "model/SharedValues.h"
 #include "platform/services/UIActivityViewController.h"
 #include "platform/toolkit/UIAlertController.h"

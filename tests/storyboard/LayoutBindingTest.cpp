@@ -41,11 +41,11 @@ TEST(LayoutBindingTest, ListsEverythingThatDoesNotFit)
     EXPECT_EQ(missing, QStringList({"action Vanish", "outlet ImportMoviesButton", "segue Nowhere"}));
 }
 
-// Puts an empty scene in the place of the one for the screens that are not there yet.
-class EmptiedPlaceholder : public QQmlAbstractUrlInterceptor
+// Puts an empty scene in the place of the way to the exchange file.
+class EmptiedLayout : public QQmlAbstractUrlInterceptor
 {
 public:
-    explicit EmptiedPlaceholder(const QString& path)
+    explicit EmptiedLayout(const QString& path)
         : emptied(QUrl::fromLocalFile(path))
     {
         QFile file(path);
@@ -54,7 +54,7 @@ public:
     }
     QUrl intercept(const QUrl& url, DataType /*type*/) override
     {
-        return url.fileName() == "Placeholder.qml" ? emptied : url;
+        return url.fileName() == "ImportExport.qml" ? emptied : url;
     }
 
 private:
@@ -65,10 +65,10 @@ using LayoutDeathTest = SceneTest;
 
 TEST_F(LayoutDeathTest, AMissingOutletEndsTheProgramAndIsNamed)
 {
-    EmptiedPlaceholder emptied(qEnvironmentVariable("HOME") + "/Emptied.qml");
+    EmptiedLayout emptied(qEnvironmentVariable("HOME") + "/Emptied.qml");
     window->engine()->addUrlInterceptor(&emptied);
-    EXPECT_DEATH(follow("RateShare"),
-                 "Fatal error: The layout of PlaceholderViewController lacks: outlet MessageLabel");
+    EXPECT_DEATH(follow("ImportExport"), "Fatal error: The layout of ImportExportViewController lacks: "
+                                         "outlet ExportMoviesButton, outlet ImportMoviesButton");
     window->engine()->removeUrlInterceptor(&emptied);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/SharedValues.h"
 #include "storyboard/MainWindow.h"
 #include "storyboard/SceneStage.h"
 #include "storyboard/SceneTable.h"
@@ -17,6 +18,8 @@ protected:
     void SetUp() override
     {
         given({.name = "Zoolander", .genre = "Comedy", .rating = "PG-13", .year = 2001});
+        shared().SelectedYear = 2001;
+        shared().SelectedMonth = 1;
         window = std::make_unique<MainWindow>();
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
@@ -25,7 +28,7 @@ protected:
     void TearDown() override
     {
         window.reset();
-        EXPECT_EQ(warnings.texts(), QStringList());
+        EXPECT_TRUE(warnings.texts().isEmpty()) << qPrintable(warnings.texts().join("\n"));
     }
 
     UINavigationController& navigation() { return *window->stage().navigation(); }
@@ -40,12 +43,15 @@ protected:
     // Layouts have come in and gone.
     void waitUntilStill()
     {
-        const auto items = window->rootObject()->childItems();
-        const auto stack = std::find_if(items.begin(), items.end(), [](const QQuickItem* item) {
-            return item->inherits("QQuickStackView");
-        });
-        ASSERT_NE(stack, items.end());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !(*stack)->property("busy").toBool(); }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !isBusy(*window->rootObject()); }));
+    }
+
+    static bool isBusy(const QQuickItem& item)
+    {
+        const auto children = item.childItems();
+        return item.property("busy").toBool() ||
+               std::any_of(children.begin(), children.end(),
+                           [](const auto* child) { return isBusy(*child); });
     }
 
     QAccessibleInterface* visible(QAccessible::Role role, const QString& name)

@@ -1,5 +1,6 @@
 #include "browse/ViewController.h"
 #include "editing/AddMovieViewController.h"
+#include "editing/ZoomViewController.h"
 #include "tests/storyboard/SceneTest.h"
 
 #include <QPointer>
@@ -76,10 +77,48 @@ TEST_F(WindowTest, AFingerDrawsTheListAlongAndOpensNoRow)
     EXPECT_EQ(navigation().depth(), 2);
 }
 
+TEST_F(WindowTest, TwoFingersMakeTheCoverLarger)
+{
+    navigation().push(std::make_unique<ZoomViewController>());
+    waitUntilStill();
+    const auto& zoom = static_cast<ZoomViewController&>(*navigation().topViewController());
+    const double before = zoom.ZoomCollectionView->scale();
+    QPointingDevice* fingers = QTest::createTouchDevice();
+    constexpr QPoint middle(200, 400);
+    QTest::touchEvent(window.get(), fingers).press(0, middle).press(1, middle);
+    for (int apart = 10; apart <= 100; apart += 10) {
+        QTest::qWait(10);
+        QTest::touchEvent(window.get(), fingers)
+            .move(0, middle - QPoint(apart, 0))
+            .move(1, middle + QPoint(apart, 0));
+    }
+    EXPECT_GT(zoom.ZoomCollectionView->scale(), 1.5 * before);
+}
+
+TEST_F(WindowTest, EachTabKeepsItsOwnStack)
+{
+    follow("TabBarController");
+    ASSERT_NE(visible(QAccessible::Heading, "Genres"), nullptr);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return visible(QAccessible::Heading, "Comedy") != nullptr; }));
+    press(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_NE(visible(QAccessible::Heading, "Years Released"), nullptr);
+    EXPECT_EQ(visible(QAccessible::Heading, "Comedy"), nullptr);
+    press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_NE(visible(QAccessible::Heading, "Comedy"), nullptr);
+    waitUntilStill();
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return visible(QAccessible::Heading, "Genres") != nullptr; }));
+    waitUntilStill();
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return visible(QAccessible::Button, "Menu") != nullptr && navigation().depth() == 1; }));
+}
+
 TEST_F(WindowTest, PoppedScreensAndTheirLayoutsGoTogether)
 {
     std::vector<QPointer<QObject>> left;
-    QObject::connect(&window->stage(), &SceneStage::pushed, window.get(), [&](QQuickItem* layout) {
+    QObject::connect(window->stage().root(), &NavigationStage::pushed, window.get(), [&](QQuickItem* layout) {
         left.emplace_back(layout);
         left.emplace_back(navigation().topViewController());
     });

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "model/SharedValues.h"
+#include "summaries/BreakdownScreens.h"
+#include "tests/support/Catalogue.h"
+#include "tests/support/PlainStoryboard.h"
+
+// A list of one of a catalogue's groups.
+class BreakdownTest : public CatalogueTest
+{
+protected:
+    template <typename Screen>
+    Screen& opened()
+    {
+        navigation.push(std::make_unique<Screen>());
+        return static_cast<Screen&>(*navigation.topViewController());
+    }
+
+    static QStringList names(const BreakdownTableViewController::MovieRecords& movies)
+    {
+        QStringList texts;
+        for (const auto& movie : movies)
+            texts.append(movie->movieName().value_or("-"));
+        return texts;
+    }
+
+    static MovieTableViewCell cell(BreakdownTableViewController& screen, int row)
+    {
+        return screen.cellForRowAt({row}).value<MovieTableViewCell>();
+    }
+
+    static QString header(BreakdownTableViewController& screen)
+    {
+        return screen.viewForHeaderInSection(0)->text;
+    }
+
+    static void search(BreakdownTableViewController& screen, const QString& text)
+    {
+        screen.searchController->searchBar()->setText(text);
+    }
+
+    // A film with every text, in the group of every kind.
+    static std::shared_ptr<Movies> alien()
+    {
+        const auto movie = given({.name = "Alien",
+                                  .genre = "Horror",
+                                  .rating = "R",
+                                  .year = 1979,
+                                  .runTime = 117,
+                                  .watched = QDateTime(QDate(2021, 3, 5), QTime(20, 15), Qt::UTC)});
+        movie->setProvider(QString("Netflix"));
+        movie->setActors(QString("Ann\nBob\n\n"));
+        movie->setDirectors(QString("Cy\nDi"));
+        movie->setProducers(QString("Ed, Flo"));
+        movie->setNotes(QString("one\ntwo"));
+        movie->setWYear(2021);
+        movie->setWMonth(3);
+        EXPECT_TRUE(context().save().ok());
+        return movie;
+    }
+
+    static void chooseGroupsOfAlien()
+    {
+        MovieFields& chosen = shared().CurrentMovie;
+        chosen.provider = "Netflix";
+        chosen.genre = "Horror";
+        chosen.rating = "R";
+        chosen.yearReleased = 1979;
+        shared().SelectedYear = 2021;
+        shared().SelectedMonth = 3;
+    }
+
+    PlainStoryboard storyboard;
+    UINavigationController navigation{storyboard};
+};

@@ -1,0 +1,170 @@
+#include "platform/services/UIActivityViewController.h"
+#include "platform/toolkit/UIAlertController.h"
+#include "platform/toolkit/UIImage.h"
+#include "resources/Resources.h"
+#include "tests/summaries/BreakdownFixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+
+namespace {
+
+class ReportTest : public BreakdownTest
+{
+protected:
+    void SetUp() override
+    {
+        QDir::home().mkpath("Documents");
+        chooseGroupsOfAlien();
+    }
+
+    // Taps the button and answers the file that the sheet offers.
+    QUrl share(BreakdownTableViewController& screen)
+    {
+        testing::internal::CaptureStdout();
+        screen.shareButtonClicked();
+        EXPECT_TRUE(screen.activityIndicator->isAnimating());
+        queue.advance(std::chrono::milliseconds(1));
+        told = QString::fromStdString(testing::internal::GetCapturedStdout());
+        EXPECT_FALSE(screen.activityIndicator->isAnimating());
+        auto* sheet = qobject_cast<UIActivityViewController*>(screen.presentedViewController());
+        if (sheet == nullptr || sheet->activityItems().size() != 1)
+            return {};
+        const auto* url = std::get_if<QUrl>(&sheet->activityItems().front());
+        return url == nullptr ? QUrl() : *url;
+    }
+
+    static QByteArray content(const QUrl& url)
+    {
+        QFile file(url.toLocalFile());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QString told;
+};
+
+struct ReportMember
+{
+    QString text, fileName;
+    std::unique_ptr<BreakdownTableViewController> (*make)();
+};
+
+template <typename Screen>
+std::unique_ptr<BreakdownTableViewController> makeScreen()
+{
+    return std::make_unique<Screen>();
+}
+
+const QString movieHead = "Movie Name: Alien\nGenre: Horror\n";
+const QString movieTail =
+    "Year: 1979\nActors: Ann,Bob,\nDirectors: Cy,Di\nProducer: Ed, Flo\nNotes: one\ntwo\n\uFFFC   \n\n";
+
+const ReportMember reportMembers[] = {
+    {"Movies Filtered by Genre: Horror\n\n" + movieHead + movieTail, "GenreMovieList.pdf",
+     makeScreen<GenreBreakdownTableViewController>},
+    {"Movies Filtered by Year Released: 1979\n\n" + movieHead + movieTail, "YearReleasedMovieList.pdf",
+     makeScreen<DateReleasedBreakdownTableViewController>},
+    {"Movies Filtered by Date Watched: March 2021\n\nDate Watched: March 2021\n" + movieHead + movieTail,
+     "YearReleasedMovieList.pdf", makeScreen<DateWatchedBreakdownTableViewController>},
+    {"Movies Filtered by Rating: R\n\n" + movieHead + "Rating: R\n" + movieTail, "GenreMovieList.pdf",
+     makeScreen<RatingBreakdownTableViewController>},
+    {"Movies Filtered by Provider: Netflix\n\nProvider: Netflix\n" + movieHead + movieTail,
+     "GenreMovieList.pdf", makeScreen<ProviderBreakdownTableViewController>},
+};
+
+TEST_F(ReportTest, EveryKindHasItsTextAndFile)
+{
+    alien();
+    for (const ReportMember& expected : reportMembers) {
+        navigation.push(expected.make());
+        auto& screen = static_cast<BreakdownTableViewController&>(*navigation.topViewController());
+        const QUrl file = share(screen);
+        EXPECT_EQ(file.fileName(), expected.fileName);
+        EXPECT_EQ(told, "wrote PDF file with multiple pages to: " + file.toLocalFile() + "\n");
+        EXPECT_EQ(screen.MovieString.string(), expected.text);
+        EXPECT_TRUE(screen.MovieString.runs().front().style.centred);
+        EXPECT_EQ(screen.MovieString.runs().front().style.fontSize, 21);
+        const QByteArray pdf = content(file);
+        EXPECT_TRUE(pdf.startsWith("%PDF-"));
+        EXPECT_TRUE(pdf.contains("/MediaBox [0 0 595.200000 841.800000]"));
+        EXPECT_FALSE(pdf.contains("842"));
+        EXPECT_TRUE(pdf.contains("/FontFile2")) << "fonts are embedded";
+    }
+}
+
+TEST_F(ReportTest, FollowsTheSearchAndTheViewsWidth)
+{
+    const auto covered = given({.name = "Bee", .genre = "Horror"});
+    QImage cover(300, 150, QImage::Format_RGB32);
+    cover.fill(Qt::red);
+    covered->setFrontCover(UIImageJPEGRepresentation(cover, 0.9));
+    given({.name = "Bad cover", .genre = "Horror"})->setFrontCover(QByteArray("no picture"));
+    given({.name = "Ant", .genre = "Horror"});
+    auto& screen = opened<GenreBreakdownTableViewController>();
+    screen.viewWidth = 600;
+    screen.searchController->searchBar()->setText("b");
+    share(screen);
+    EXPECT_EQ(screen.MovieString.string().count("Movie Name: "), 2);
+    std::vector<QSizeF> sizes;
+    for (const auto& run : screen.MovieString.runs())
+        if (run.attachment)
+            sizes.push_back(run.attachment->size);
+    const QSizeF logo = QSizeF(movieLogo().size()) * (100.0 / movieLogo().width());
+    EXPECT_EQ(sizes, std::vector<QSizeF>({logo, QSizeF(100, 50)}));
+}
+
+TEST_F(ReportTest, TheFileReadsAsItsText)
+{
+    alien()->setNotes(QString::fromUtf8("Ünïcödé ΑΒΓ абв\nשלום"));
+    given({.name = "Brazil", .genre = "Horror", .year = 1985});
+    auto& screen = opened<GenreBreakdownTableViewController>();
+    QProcess reader;
+    reader.start("pdftotext", {"-layout", share(screen).toLocalFile(), "-"});
+    ASSERT_TRUE(reader.waitForFinished()) << qPrintable(reader.errorString());
+    // Marks of direction are the reader's own.
+    static const QRegularExpression marks("[\u202A-\u202E]");
+    const QString read = QString::fromUtf8(reader.readAllStandardOutput()).remove(marks);
+    EXPECT_EQ(read.simplified().toStdString(),
+              screen.MovieString.string().remove(u'\uFFFC').simplified().toStdString());
+}
+
+TEST_F(ReportTest, ALongListFlowsOntoFurtherPages)
+{
+    for (int i = 0; i < 40; ++i)
+        given({.name = "m", .genre = "Horror"});
+    EXPECT_GT(content(share(opened<GenreBreakdownTableViewController>())).count("/Type /Page\n"), 5);
+}
+
+TEST_F(ReportTest, AFileThatCanNotBeWrittenIsOnlyToldToTheConsole)
+{
+    alien();
+    QDir::home().rmdir("Documents");
+    EXPECT_EQ(share(opened<GenreBreakdownTableViewController>()).fileName(), "GenreMovieList.pdf");
+    EXPECT_TRUE(told.startsWith("Could not create PDF file: ")) << qPrintable(told);
+}
+
+TEST_F(ReportTest, NeedsADeviceThatSendsTexts)
+{
+    alien();
+    device.setCanSendText(false);
+    auto& screen = opened<GenreBreakdownTableViewController>();
+    screen.shareButtonClicked();
+    EXPECT_EQ(screen.presentedViewController(), nullptr) << "the alert waits for its turn";
+    queue.advance({});
+    auto* alert = qobject_cast<UIAlertController*>(screen.presentedViewController());
+    ASSERT_NE(alert, nullptr);
+    EXPECT_EQ(alert->message(), "Your device is not able to send text messages.");
+    EXPECT_TRUE(screen.MovieString.isEmpty());
+}
+
+using ReportDeathTest = ReportTest;
+
+TEST_F(ReportDeathTest, AReportOfNothingEndsTheProgram)
+{
+    auto& screen = opened<GenreBreakdownTableViewController>();
+    EXPECT_DEATH(screen.shareButtonClicked(), "Fatal error: A report of no movies");
+}
+
+} // namespace

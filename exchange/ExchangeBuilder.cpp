@@ -8,12 +8,12 @@
 namespace {
 
 // Enough to be worth handing over, few enough for the window to stay alive.
-constexpr std::size_t moviesPerBatch = 64;
+constexpr std::size_t moviesPerBatch = 16;
 
 // Bounds the covers that wait in memory.
 std::size_t mostBatchesUnderWay()
 {
-    return static_cast<std::size_t>(std::max(1, QThread::idealThreadCount())) * 2;
+    return static_cast<std::size_t>(std::max(1, QThread::idealThreadCount())) * 4;
 }
 
 Result<QString> recordsOf(const std::vector<ExchangeValues>& batch)

@@ -124,6 +124,16 @@ void completeForm(Tour& tour)
     visitor.expectText(field("Notes"), "Seenin the open air!");
     tour.picture("form-below");
 
+    tour.step("The camera shows what it would take");
+    visitor.reach(button("Camera"));
+    visitor.tap(button("Camera"));
+    visitor.expect(button("Take Photo"));
+    tour.picture("camera");
+    visitor.tap(button("Cancel"));
+    visitor.expectNo(button("Take Photo"));
+    // The field that has the keyboard again is scrolled into sight.
+    visitor.settle();
+
     tour.step("The cover is pasted");
     QGuiApplication::clipboard()->setImage(paintedCover());
     visitor.reach(button("Paste"));

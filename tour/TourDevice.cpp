@@ -1,5 +1,7 @@
 #include "tour/TourDevice.h"
 
+#include "resources/Resources.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -47,6 +49,20 @@ struct TourDevice::PaperlessPrinter : Printer
     void cancelAsking() override {}
 };
 
+struct TourDevice::StillCamera : Camera
+{
+    [[nodiscard]] bool isAvailable() override { return true; }
+    void start(Told told) override
+    {
+        later = std::make_unique<QObject>();
+        const auto tell = [told = std::move(told)] { told(movieLogo()); };
+        QMetaObject::invokeMethod(later.get(), tell, Qt::QueuedConnection);
+    }
+    void stop() override { later.reset(); }
+
+    std::unique_ptr<QObject> later;
+};
+
 struct TourDevice::SilentReviewPrompt : ReviewPrompt
 {
     void ask(UIWindowScene* /*scene*/) override {}
@@ -73,6 +89,7 @@ TourDevice::TourDevice(const QString& folder)
     documents->folder = folder;
     replaceService<DeafAddressOpener>(device->addressOpener);
     replaceService<PaperlessPrinter>(device->printer);
+    replaceService<StillCamera>(device->camera);
     replaceService<SilentReviewPrompt>(device->reviewPrompt);
 }
 

@@ -3,8 +3,8 @@
 #include "platform/services/Device.h"
 
 // The device that the program really runs on, but for what would lead out of the tour: the file dialog picks
-// by itself, addresses lead nowhere, nothing is printed, nobody asks for a review, and the tour decides on
-// light or dark and on whether there are text messages.
+// by itself, addresses lead nowhere, nothing is printed, the camera sees one picture, nobody asks for a
+// review, and the tour decides on light or dark and on whether there are text messages.
 class TourDevice
 {
 public:
@@ -23,6 +23,7 @@ private:
     struct ToldInterfaceStyle;
     struct DeafAddressOpener;
     struct PaperlessPrinter;
+    struct StillCamera;
     struct SilentReviewPrompt;
 
     std::unique_ptr<Device> device = makeLinuxDevice();

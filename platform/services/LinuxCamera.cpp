@@ -9,9 +9,9 @@
 namespace {
 
 // The first list of cameras is made by a media library that looks for its own plugins, then asks every source
-// of video and sound. Measured: 20 to 60 ms; 320 ms at the first use of a fresh account; for ever where the
+// of video and sound. Measured: 20 to 60 ms; 320 ms at the first use of a fresh account; a minute where the
 // sound server takes the connection and does not answer. So it is made on a thread of its own, and waited for
-// this long.
+// this long; a list that comes later serves the next question.
 constexpr auto patience = std::chrono::seconds(2);
 
 // What a plugin has but one of, with its list of cameras made; null: the file holds none.
@@ -62,7 +62,7 @@ void LinuxCamera::beginSearch()
     std::packaged_task<Camera*()> task([files = pluginFiles] { return firstCamera(files); });
     search = task.get_future().share();
     searchEnd = std::chrono::steady_clock::now() + patience;
-    // Nothing but its end could stop it, and the program must be able to end before that.
+    // Nothing could stop it, so nobody may have to wait for it.
     std::thread(std::move(task)).detach();
 }
 

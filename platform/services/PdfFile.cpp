@@ -59,11 +59,12 @@ QByteArray pdfOf(const NSAttributedString& text, const QSizeF& pageSize)
     writer.setResolution(dotsPerInch);
     writer.setPageSize(QPageSize(pageSize, QPageSize::Point));
     writer.setPageMargins(QMarginsF());
-    const auto document = textDocument(text);
-    document->documentLayout()->setPaintDevice(&writer);
-    document->setDocumentMargin(inset);
-    document->setPageSize(pageSize * dotsPerInch / pointsPerInch);
-    paintPages(*document, writer);
+    QTextDocument document;
+    document.documentLayout()->setPaintDevice(&writer);
+    document.setDocumentMargin(inset);
+    document.setPageSize(pageSize * dotsPerInch / pointsPerInch);
+    fillDocument(document, text);
+    paintPages(document, writer);
     QByteArray pdf = file.data();
     setExactPageBox(pdf, pageSize);
     return pdf;

@@ -76,13 +76,12 @@ QTextBlockFormat paragraphFormat(const TextStyle& style)
 
 } // namespace
 
-std::unique_ptr<QTextDocument> textDocument(const NSAttributedString& text)
+void fillDocument(QTextDocument& document, const NSAttributedString& text)
 {
-    auto document = std::make_unique<QTextDocument>();
-    document->setUndoRedoEnabled(false);
-    auto* attachments = new Attachments(document.get());
-    document->documentLayout()->registerHandler(attachmentObject, attachments);
-    QTextCursor cursor(document.get());
+    document.setUndoRedoEnabled(false);
+    auto* attachments = new Attachments(&document);
+    document.documentLayout()->registerHandler(attachmentObject, attachments);
+    QTextCursor cursor(&document);
     cursor.beginEditBlock();
     for (const NSAttributedString::Run& run : text.runs()) {
         QTextCharFormat format = characterFormat(run.style);
@@ -95,6 +94,12 @@ std::unique_ptr<QTextDocument> textDocument(const NSAttributedString& text)
         cursor.insertText(run.text, format);
     }
     cursor.endEditBlock();
+}
+
+std::unique_ptr<QTextDocument> textDocument(const NSAttributedString& text)
+{
+    auto document = std::make_unique<QTextDocument>();
+    fillDocument(*document, text);
     return document;
 }
 

@@ -29,6 +29,23 @@ protected:
         return rows;
     }
 
+    static QByteArray countsBy(const QByteArray& column)
+    {
+        return "SELECT " + column + " || ' ' || count(*) FROM Movies WHERE " + column +
+               " IS NOT NULL GROUP BY " + column + " ORDER BY " + column;
+    }
+
+    // A row for each month, which tells and counts its year.
+    static QByteArray countsByMonth()
+    {
+        const QByteArray dates =
+            "(SELECT *, strftime('%Y', dateWatched / 1000, 'unixepoch', 'localtime') AS year, "
+            "strftime('%m', dateWatched / 1000, 'unixepoch', 'localtime') AS month FROM Movies)";
+        return "SELECT year || ' ' || (SELECT count(*) FROM " + dates +
+               " AS other WHERE other.year = shown.year) FROM " + dates +
+               " AS shown GROUP BY year, month ORDER BY year, month";
+    }
+
     QStringList shown(UITabBarController& tabs, int tab)
     {
         tabs.setSelectedIndex(tab);
@@ -49,19 +66,9 @@ TEST_F(RealGroupsTest, AreThoseThatTheStoreItselfCounts)
     auto bar = std::make_unique<GroupTabBarController>();
     UITabBarController& tabs = *bar;
     navigation.push(std::move(bar));
-    const QByteArray year = "strftime('%Y', dateWatched / 1000, 'unixepoch', 'localtime')";
     const QByteArray groupings[] = {
-        "SELECT genre || ' ' || count(*) FROM Movies WHERE genre IS NOT NULL GROUP BY genre ORDER BY genre",
-        "SELECT coalesce(yearReleased, 0) || ' ' || count(*) FROM Movies GROUP BY coalesce(yearReleased, 0) "
-        "ORDER BY coalesce(yearReleased, 0)",
-        "SELECT " + year + " || ' ' || (SELECT count(*) FROM Movies AS other WHERE " +
-            QByteArray(year).replace("dateWatched", "other.dateWatched") + " = " +
-            QByteArray(year).replace("dateWatched", "Movies.dateWatched") +
-            ") FROM Movies GROUP BY strftime('%Y %m', dateWatched / 1000, 'unixepoch', 'localtime')",
-        "SELECT rating || ' ' || count(*) FROM Movies WHERE rating IS NOT NULL GROUP BY rating ORDER BY "
-        "rating",
-        "SELECT provider || ' ' || count(*) FROM Movies WHERE provider IS NOT NULL GROUP BY provider "
-        "ORDER BY provider",
+        countsBy("genre"),    countsBy("coalesce(yearReleased, 0)"), countsByMonth(), countsBy("rating"),
+        countsBy("provider"),
     };
     for (int tab = 0; tab < tabs.tabCount(); ++tab) {
         const QStringList expected = queried(groupings[tab]);

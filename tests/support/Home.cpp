@@ -1,6 +1,7 @@
 #include "tests/support/Home.h"
 
 #include <QDir>
+#include <QFile>
 
 Home::Home()
 {
@@ -12,4 +13,7 @@ Home::Home()
     point("XDG_DATA_HOME", QStringLiteral("data"));
     point("XDG_CONFIG_HOME", QStringLiteral("config"));
     point("XDG_CACHE_HOME", QStringLiteral("cache"));
+    point("XDG_RUNTIME_DIR", QStringLiteral("runtime"));
+    QFile::setPermissions(path(QStringLiteral("runtime")),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }

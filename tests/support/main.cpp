@@ -1,6 +1,7 @@
 #include "tests/support/Home.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QHashSeed>
 #include <QLocale>
 #include <gtest/gtest.h>
@@ -22,10 +23,21 @@ void pinSurroundings()
 
 class FreshHomePerTest : public testing::EmptyTestEventListener
 {
-    void OnTestStart(const testing::TestInfo&) override { home.emplace(); }
+    void OnTestStart(const testing::TestInfo&) override
+    {
+        home.emplace();
+        places.append(QDir::cleanPath(qEnvironmentVariable("HOME")));
+    }
     void OnTestEnd(const testing::TestInfo&) override { home.reset(); }
+    // A sound library that was given up may have written on.
+    void OnTestProgramEnd(const testing::UnitTest&) override
+    {
+        for (const QString& place : places)
+            QDir(place).removeRecursively();
+    }
 
     std::optional<Home> home;
+    QStringList places;
 };
 
 } // namespace

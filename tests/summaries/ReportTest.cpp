@@ -124,7 +124,7 @@ TEST_F(ReportTest, TheFileReadsAsItsText)
     reader.start("pdftotext", {"-layout", share(screen).toLocalFile(), "-"});
     ASSERT_TRUE(reader.waitForFinished()) << qPrintable(reader.errorString());
     // Marks of direction are the reader's own.
-    static const QRegularExpression marks("[\u202A-\u202E]");
+    static const QRegularExpression marks("[\\x{202A}-\\x{202E}]");
     const QString read = QString::fromUtf8(reader.readAllStandardOutput()).remove(marks);
     EXPECT_EQ(read.simplified().toStdString(),
               screen.MovieString.string().remove(u'\uFFFC').simplified().toStdString());

@@ -40,7 +40,7 @@ Scene {
             height: 92
             sourceSize.width: 224
             sourceSize.height: 224
-            source: "qrc:/marrowvale/marrowvale.svg"
+            source: "image://symbol/marrowvale"
 
             Accessible.ignored: true
         }

@@ -4,18 +4,28 @@
 #include "storyboard/SceneStage.h"
 #include "storyboard/controls/SymbolProvider.h"
 
+#include <QFontMetricsF>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QThreadPool>
 
 namespace {
 
 constexpr QSize phoneSize(420, 860);
 constexpr QSize smallestSize(360, 480);
 
+// The first text waits until the desktop's fonts are listed, which takes as long as reading the root layout:
+// another core does it meanwhile.
+void listFonts()
+{
+    QThreadPool::globalInstance()->start([] { static_cast<void>(QFontMetricsF(QFont()).height()); });
+}
+
 } // namespace
 
 MainWindow::MainWindow()
 {
+    listFonts();
     setTitle(QStringLiteral("Marrowvale"));
     setResizeMode(SizeRootObjectToView);
     setMinimumSize(smallestSize);

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Marrowvale.Controls
 import Marrowvale.Storyboard
 
@@ -9,45 +8,68 @@ FocusScope {
 
     required property SceneStage stage
     required property NavigationStage stack
+    // From the bottom to the top.
+    property var layouts: []
+    property Layout shown: null
     // Popped layouts that may still be seen leaving.
     property var leaving: []
+    readonly property alias busy: slide.running
 
-    function show(layout: Layout) {
+    function push(layout: Layout) {
         root.tidy();
         layout.navigation = root.stack.navigation;
         layout.navigationDepth = root.stack.navigation.depth;
-        view.push(layout, view.depth === 0 ? T.StackView.Immediate : T.StackView.PushTransition);
-        root.takeFocus();
-    }
-
-    // What stands behind another tab leaves the keyboard where it is.
-    function takeFocus() {
-        if (root.visible && view.currentItem !== null)
-            view.currentItem.forceActiveFocus();
+        layout.parent = view;
+        root.layouts.push(layout);
+        root.turnTo(layout, true);
     }
 
     function remove(layout: Layout) {
         FirstResponder.current = null;
+        root.layouts.splice(root.layouts.indexOf(layout), 1);
         root.leaving.push(layout);
         tidying.start();
     }
 
     // One unwinding pops several layouts: only the top one is seen to go, and all stay until it is gone.
     function tidy() {
-        const last = view.find(item => root.leaving.indexOf(item) < 0);
-        if (last !== null && last !== view.currentItem) {
-            view.pop(last);
-            root.takeFocus();
-        }
-        if (!view.busy)
-            root.releaseLeaving();
+        if (root.leaving.indexOf(root.shown) >= 0)
+            root.turnTo(root.layouts[root.layouts.length - 1], false);
     }
 
-    function releaseLeaving() {
+    function turnTo(layout: Layout, inwards: bool) {
+        slide.complete();
+        slide.going = root.shown;
+        slide.entering = layout;
+        slide.inwards = inwards;
+        root.shown = layout;
+        layout.visible = true;
+        if (slide.going !== null) {
+            slide.going.settled = false;
+            slide.begin();
+        } else {
+            root.settle();
+        }
+        root.takeFocus();
+    }
+
+    function settle() {
+        if (slide.going !== null)
+            slide.going.visible = false;
+        slide.going = null;
+        if (root.leaving.indexOf(root.shown) >= 0)
+            return; // popped while it came
+        root.shown.settled = true;
         const gone = root.leaving;
         root.leaving = [];
         for (let i = 0; i < gone.length; ++i)
             root.stack.release(gone[i]);
+    }
+
+    // What stands behind another tab leaves the keyboard where it is.
+    function takeFocus() {
+        if (root.visible && root.shown !== null)
+            root.shown.forceActiveFocus();
     }
 
     onVisibleChanged: takeFocus()
@@ -63,7 +85,7 @@ FocusScope {
         target: root.stack
 
         function onPushed(item) {
-            root.show(item);
+            root.push(item);
         }
 
         function onPopped(item) {
@@ -71,24 +93,18 @@ FocusScope {
         }
     }
 
-    T.StackView {
+    Slide {
+        id: slide
+
+        width: view.width
+        onStopped: root.settle()
+    }
+
+    FocusScope {
         id: view
 
         anchors.fill: parent
-        onBusyChanged: tidying.start()
-
-        pushEnter: SlideTransition {
-            from: view.width
-        }
-        pushExit: SlideTransition {
-            to: -view.width / 4
-        }
-        popEnter: SlideTransition {
-            from: -view.width / 4
-        }
-        popExit: SlideTransition {
-            to: view.width
-        }
+        focus: true
     }
 
     PresentationHost {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Marrowvale.Storyboard
 import Marrowvale.Toolkit
 
@@ -10,7 +9,7 @@ Item {
     required property SceneStage stage
     required property UIViewController presenter
     readonly property UIViewController presented: presenter !== null ? presenter.presentedViewController : null
-    property T.Popup shown: null
+    property var shown: null
 
     signal finished
 
@@ -35,9 +34,8 @@ Item {
 
     // By address: what no screen has presented yet need not be loaded.
     function show(layout: string, values: var) {
-        const popup = Qt.createComponent(layout).createObject(host, values) as T.Popup;
-        popup.closed.connect(host.finished);
-        host.shown = popup;
+        host.shown = Qt.createComponent(layout).createObject(host, values);
+        host.shown.closed.connect(host.finished);
     }
 
     onPresentedChanged: follow()

@@ -14,15 +14,10 @@ Pressable {
     implicitWidth: Math.max(Theme.target, shownImage.length > 0 ? 0 : label.implicitWidth + 16)
     implicitHeight: Theme.target
     opacity: !available ? 0.4 : down ? 0.5 : 1
-    onMenuAsked: menu => menuComponent.createObject(button, {
+    // By address: popups are loaded when the first is asked for.
+    onMenuAsked: menu => Qt.createComponent("MenuPopup.qml").createObject(button, {
         menu: menu
     })
-
-    Component {
-        id: menuComponent
-
-        MenuPopup {}
-    }
 
     Rectangle {
         anchors.fill: parent

@@ -9,6 +9,12 @@ FocusScope {
     required property UIViewController controller
     property UINavigationController navigation: null
     property int navigationDepth: 1
+    // On top of its stack, and neither coming nor going.
+    property bool settled: false
+
+    width: parent !== null ? parent.width : 0
+    height: parent !== null ? parent.height : 0
+    visible: false
 
     Binding {
         target: layout.controller

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Window
-import QtQuick.Templates as T
 
 // A scrolling column of readable width. What gets the keyboard is scrolled into sight.
 Flickable {
@@ -40,7 +39,9 @@ Flickable {
     onFocusItemChanged: reveal()
     onHeightChanged: reveal()
 
-    T.ScrollBar.vertical: ScrollBar {}
+    ScrollBar {
+        view: page
+    }
 
     Item {
         id: ground

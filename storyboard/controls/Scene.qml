@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Marrowvale.Toolkit
 
 // The frame of most layouts: navigation bar, content, and the panel in the keyboard's place.
@@ -15,7 +14,7 @@ Layout {
     readonly property bool canGoBack: navigationDepth > 1
 
     function goBack() {
-        if (scene.T.StackView.status !== T.StackView.Active)
+        if (!scene.settled)
             return;
         if (scene.canGoBack)
             scene.navigation.pop();

@@ -38,7 +38,8 @@ QImage SymbolProvider::requestImage(const QString& id, QSize* size, const QSize&
     const QString name = id.section(QLatin1Char('?'), 0, 0);
     const QColor color(id.section(QLatin1Char('?'), 1));
     QImage symbol = drawnSymbol(name, requestedSize.isValid() ? requestedSize : defaultSymbolSize);
-    tint(symbol, color.isValid() ? color : QColor(Qt::black));
+    if (color.isValid())
+        tint(symbol, color);
     if (size != nullptr)
         *size = symbol.size();
     return symbol;

@@ -2,8 +2,8 @@
 
 #include <QQuickImageProvider>
 
-// Draws a symbol in one colour: "image://symbol/square.and.arrow.up?#202020". An unknown symbol is an empty
-// picture.
+// Draws a symbol in one colour: "image://symbol/square.and.arrow.up?#202020"; in its own colours where none
+// follows. An unknown symbol is an empty picture.
 class SymbolProvider : public QQuickImageProvider
 {
 public:

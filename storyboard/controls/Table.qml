@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Marrowvale.Toolkit
 
 // A table under its header. A chosen row triggers the segue.
@@ -107,7 +106,9 @@ FocusScope {
                 event.accepted = false;
         }
 
-        T.ScrollBar.vertical: ScrollBar {}
+        ScrollBar {
+            view: list
+        }
 
         remove: Transition {
             NumberAnimation {

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Marrowvale.Controls
 import Marrowvale.Toolkit
 
@@ -40,7 +39,9 @@ Rectangle {
         Accessible.role: Accessible.List
         Accessible.name: view.name
 
-        T.ScrollBar.vertical: ScrollBar {}
+        ScrollBar {
+            view: list
+        }
 
         delegate: Item {
             id: line

@@ -132,6 +132,27 @@ TEST_F(WindowTest, PoppedScreensAndTheirLayoutsGoTogether)
     EXPECT_NE(visible(QAccessible::Button, "Menu"), nullptr);
 }
 
+// Each turn of the event loop leaves a layout half way in.
+TEST_F(WindowTest, ShowsTheTopScreenHoweverFastTheStackTurns)
+{
+    const auto performAtOnce = [&](const QString& segue) {
+        navigation().topViewController()->performSegue(segue);
+        QTest::qWait(1);
+    };
+    performAtOnce("ImportExport");
+    performAtOnce("Import");
+    navigation().pop();
+    performAtOnce("Import");
+    navigation().pop();
+    navigation().pop();
+    waitUntilStill();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return visible(QAccessible::Button, "Menu") != nullptr; }));
+    EXPECT_EQ(visible(QAccessible::Button, "Back"), nullptr);
+    follow("MovieList");
+    EXPECT_NE(visible(QAccessible::Heading, "Movie List"), nullptr);
+    EXPECT_EQ(visible(QAccessible::Heading, "Marrowvale"), nullptr) << "what lies below is hidden";
+}
+
 TEST_F(WindowTest, FollowsTheDeviceIntoTheDark)
 {
     const auto lightness = [&] {

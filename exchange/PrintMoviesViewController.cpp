@@ -12,12 +12,9 @@
 
 namespace {
 
-std::vector<std::shared_ptr<Movies>> moviesToPrint()
+std::vector<std::shared_ptr<Movies>> moviesOf(const NSFetchRequest& request)
 {
-    const auto request = printRequest();
-    if (!request)
-        return {};
-    auto fetched = AppDelegate::shared().persistentContainer().viewContext().fetch<Movies>(*request);
+    auto fetched = AppDelegate::shared().persistentContainer().viewContext().fetch<Movies>(request);
     if (fetched)
         return std::move(fetched).value();
     console(fetched.error().localizedDescription);
@@ -39,8 +36,11 @@ void PrintMoviesViewController::viewDidLoad()
     CreateFileButton->setLayer({.cornerRadius = 10, .borderWidth = 2, .borderColor = Qt::black});
     FileTextView->setLayer({.cornerRadius = 5, .borderWidth = 1, .borderColor = QColor()});
     FileTextView->setEditable(false);
-    MovieList = moviesToPrint();
     FileTextView->setText({});
+    const auto request = printRequest();
+    if (!request)
+        return;
+    MovieList = moviesOf(*request);
     (void)hasMovies();
 }
 

@@ -41,6 +41,13 @@ private:
     std::variant<T, NSError> state;
 };
 
+// The sentence for people; empty where there is no problem.
+template <typename T>
+[[nodiscard]] QString problemOf(const Result<T>& outcome)
+{
+    return outcome ? QString() : outcome.error().localizedDescription;
+}
+
 // The outcome of something that yields nothing but success.
 using Status = Result<std::monostate>;
 

@@ -1,23 +1,11 @@
 #include "platform/services/LinuxDocuments.h"
 
+#include "platform/foundation/FileWriting.h"
 #include "platform/services/DialogStacking.h"
 
 #include <QFileDialog>
 #include <QGuiApplication>
-#include <QSaveFile>
 #include <QStandardPaths>
-
-namespace {
-
-QString writeWhole(const QString& path, const QByteArray& content)
-{
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
-        return {};
-    return file.errorString();
-}
-
-} // namespace
 
 LinuxDocuments::~LinuxDocuments()
 {
@@ -39,7 +27,7 @@ void LinuxDocuments::saveDocument(const QString& name, const QByteArray& content
 {
     const auto save = [content, tell = std::move(saved)](const QList<QUrl>& chosen) {
         if (!chosen.isEmpty())
-            tell(writeWhole(chosen.first().toLocalFile(), content));
+            tell(problemOf(writeAtomically(content, chosen.first().toLocalFile())));
     };
     QFileDialog& opened = newDialog(QStringLiteral("Save to Files"), save);
     opened.setAcceptMode(QFileDialog::AcceptSave);

@@ -31,12 +31,6 @@ QString fileNameFor(const QString& job)
     return name.endsWith(ending, Qt::CaseInsensitive) ? name : name + ending;
 }
 
-template <typename Outcome>
-QString sentenceOf(const Outcome& outcome)
-{
-    return outcome ? QString() : outcome.error().localizedDescription;
-}
-
 } // namespace
 
 LinuxPrinter::LinuxPrinter(std::chrono::milliseconds patience)
@@ -46,7 +40,7 @@ LinuxPrinter::LinuxPrinter(std::chrono::milliseconds patience)
 
 LinuxPrinter::~LinuxPrinter()
 {
-    cancelAsking();
+    closeDialog();
 }
 
 void LinuxPrinter::print(const PrintJob& job, Told told)
@@ -64,6 +58,15 @@ void LinuxPrinter::print(const PrintJob& job, Told told)
 }
 
 void LinuxPrinter::cancelAsking()
+{
+    if (!offered.expired()) {
+        offered.reset();
+        Device::current().documents->cancelPicking();
+    }
+    closeDialog();
+}
+
+void LinuxPrinter::closeDialog()
 {
     // Told last: what is told may print again.
     const Job cancelled = std::exchange(asking, nullptr);
@@ -98,15 +101,18 @@ void LinuxPrinter::send(const Job& job, const PrintTarget& target)
         else
             inBackground(
                 works, [pages, file = target.file] { return copyFile(pages, file); },
-                [told](const Status& copied) { told(sentenceOf(copied)); });
+                [told](const Status& copied) { told(problemOf(copied)); });
     });
 }
 
 void LinuxPrinter::offerAsFile(const Job& job)
 {
-    const auto offer = [job](const Result<QByteArray>& pages) {
+    offered = job;
+    const auto offer = [this, job](const Result<QByteArray>& pages) {
+        if (offered.lock() != job)
+            return; // cancelled meanwhile
         if (!pages) {
-            job->end(sentenceOf(pages));
+            job->end(problemOf(pages));
             return;
         }
         // A cancelled dialog tells nothing, but lets go of the job.
@@ -134,6 +140,6 @@ void LinuxPrinter::withPages(const Job& job, const QPageLayout& layout,
         if (rendered)
             then(path);
         else
-            job->end(sentenceOf(rendered));
+            job->end(problemOf(rendered));
     });
 }

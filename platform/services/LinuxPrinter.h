@@ -28,6 +28,7 @@ private:
     using Job = std::shared_ptr<PendingPrint>;
 
     void openDialog();
+    void closeDialog();
     void send(const Job& job, const PrintTarget& target);
     void offerAsFile(const Job& job);
     // Hands the path of the job's pages on, once there are any.
@@ -37,6 +38,8 @@ private:
     std::chrono::milliseconds patience;
     // What the user is being asked about; null: nothing.
     Job asking;
+    // What the user is, or will be, offered to save as a file.
+    std::weak_ptr<PendingPrint> offered;
     QPointer<QPrintDialog> dialog;
     // Owns what is under way.
     QObject works;

@@ -37,7 +37,7 @@ void UIImagePickerController::turnCameraOff()
 void UIImagePickerController::show(const Result<QImage>& told)
 {
     seen = told ? told.value() : QImage();
-    missing = told ? QString() : told.error().localizedDescription;
+    missing = problemOf(told);
     Q_EMIT pictureChanged();
 }
 

@@ -123,7 +123,10 @@ TEST_F(PrintTest, NothingToPrintIsSaidAtOnceAndAgain)
     }
     EXPECT_TRUE(screen.PrintButton->isHidden());
     EXPECT_TRUE(device.printerTwin->printed.empty());
-    EXPECT_TRUE(openedFrom("MainList").MovieList.empty()) << "no caller that prints";
+    auto& unknown = openedFrom("MainList");
+    EXPECT_EQ(unknown.presentedViewController(), nullptr) << "no caller that prints, and nothing is said";
+    unknown.CreateFileClick();
+    EXPECT_NE(unknown.presentedViewController(), nullptr);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "platform/foundation/Console.h"
 #include "platform/foundation/DispatchQueue.h"
 #include "platform/foundation/FileWriting.h"
-#include "platform/services/PdfFile.h"
+#include "platform/pdf/PdfFile.h"
 #include "platform/services/TextSharing.h"
 #include "summaries/BreakdownTableViewController.h"
 #include "summaries/MovieReport.h"

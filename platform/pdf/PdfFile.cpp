@@ -1,5 +1,6 @@
-#include "platform/services/PdfFile.h"
+#include "platform/pdf/PdfFile.h"
 
+#include "platform/pdf/PdfText.h"
 #include "platform/toolkit/TextDocument.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -31,28 +32,51 @@ void setExactPageBox(QByteArray& pdf, const QSizeF& pageSize)
                 pageBox(pageSize.width(), pageSize.height()));
 }
 
+void drawPage(const QTextDocument& document, int number, QPainter& painter)
+{
+    QAbstractTextDocumentLayout::PaintContext context;
+    const QSizeF page = document.pageSize();
+    context.clip = QRectF(QPointF(0, number * page.height()), page);
+    painter.setClipRect(context.clip);
+    document.documentLayout()->draw(&painter, context);
+}
+
 void paintPages(const QTextDocument& document, QPdfWriter& writer)
 {
     QPainter painter(&writer);
-    const QSizeF page = document.pageSize();
     const int pages = document.pageCount();
     for (int number = 0; number < pages; ++number) {
         if (number > 0) {
             writer.newPage();
-            painter.translate(0, -page.height());
+            painter.translate(0, -document.pageSize().height());
         }
-        QAbstractTextDocumentLayout::PaintContext context;
-        context.clip = QRectF(QPointF(0, number * page.height()), page);
-        painter.setClipRect(context.clip);
-        document.documentLayout()->draw(&painter, context);
+        drawPage(document, number, painter);
     }
+}
+
+CodeUnits charactersOf(const NSAttributedString& text)
+{
+    CodeUnits characters;
+    for (const NSAttributedString::Run& run : text.runs())
+        for (const QChar unit : run.text)
+            characters.set(unit.unicode());
+    return characters;
+}
+
+PdfPageItems itemsOfPage(const QTextDocument& document, int number)
+{
+    const QSizeF page = document.pageSize();
+    return {pdfTextItems(page.toSize(), dotsPerInch,
+                         [&](QPainter& painter) { drawPage(document, number, painter); }),
+            number * page.height()};
 }
 
 } // namespace
 
 QByteArray pdfOf(const NSAttributedString& text, const QSizeF& pageSize)
 {
-    QBuffer file;
+    QByteArray pdf;
+    QBuffer file(&pdf);
     file.open(QIODevice::WriteOnly);
     QPdfWriter writer(&file);
     writer.setCreator(QStringLiteral("Marrowvale"));
@@ -65,7 +89,12 @@ QByteArray pdfOf(const NSAttributedString& text, const QSizeF& pageSize)
     document.setPageSize(pageSize * dotsPerInch / pointsPerInch);
     fillDocument(document, text);
     paintPages(document, writer);
-    QByteArray pdf = file.data();
     setExactPageBox(pdf, pageSize);
+    // Pictures, which take long to draw, say nothing.
+    const auto itemsOf = [&document](int page) {
+        document.documentLayout()->unregisterHandler(QTextFormat::UserObject);
+        return itemsOfPage(document, page);
+    };
+    makeTextReadable(pdf, charactersOf(text), itemsOf);
     return pdf;
 }

@@ -26,6 +26,7 @@ Scene {
             title: "Share"
             image: "square.and.arrow.up"
             outlet: root.screen.shareOutlet
+            enabled: root.screen.tableView.count > 0
             action: "shareButtonClicked"
         }
     ]

@@ -23,13 +23,10 @@ Scene {
     Item {
         id: ground
 
-        // As wide as the narrower side, so that the cover is seen whole at first.
-        readonly property real room: Math.min(width, height)
-
         anchors.fill: parent
         clip: true
         focus: true
-        onRoomChanged: root.screen.viewDidLayoutSubviews(room)
+        onWidthChanged: root.screen.viewDidLayoutSubviews(width)
 
         Keys.onPressed: event => {
             const pan = root.screen.panRec;

@@ -1,10 +1,9 @@
 #include "summaries/BreakdownKind.h"
 
 #include "model/SharedValues.h"
+#include "platform/foundation/Calendar.h"
 #include "platform/foundation/Console.h"
 #include "platform/foundation/DateFormatter.h"
-
-#include <QDate>
 
 namespace {
 
@@ -54,8 +53,8 @@ QString chosenMonthName()
 {
     DateFormatter formatter;
     formatter.setDateFormat(QStringLiteral("MMMM yyyy"));
-    const QDate firstDay(shared().SelectedYear.value_or(1), shared().SelectedMonth.value_or(1), 1);
-    return formatter.stringFrom(firstDay.startOfDay());
+    return formatter.stringFrom(Calendar::current().startOfMonth(shared().SelectedYear.value_or(1),
+                                                                 shared().SelectedMonth.value_or(1)));
 }
 
 } // namespace

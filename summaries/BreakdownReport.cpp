@@ -37,10 +37,11 @@ void BreakdownTableViewController::shareButtonClicked()
     writeReport();
 }
 
+// One after the other: several screens share a file, which is to hold the report that was asked for last.
 void BreakdownTableViewController::writeReport()
 {
     activityIndicator->startAnimating();
-    DispatchQueue::global().async(
+    DispatchQueue::serial().async(
         [screen = QPointer(this), text = MovieString, path = outputFileURL.toLocalFile()] {
             const QString outcome = outcomeOf(writeAtomically(pdfOf(text, paperSize), path), path);
             DispatchQueue::main().async([screen, outcome] {

@@ -68,7 +68,13 @@ QDateTime Calendar::dateByAddingDays(int days, const QDateTime& date) const
 
 QDateTime Calendar::startOfYear(int year) const
 {
+    return startOfMonth(year, 1);
+}
+
+QDateTime Calendar::startOfMonth(int year, int month) const
+{
     ucal_clear(calendar.get());
     ucal_set(calendar.get(), UCAL_YEAR, year);
+    ucal_set(calendar.get(), UCAL_MONTH, month - 1);
     return momentOf(calendar.get());
 }

@@ -23,8 +23,9 @@ public:
     [[nodiscard]] DateComponents components(const QDateTime& date) const;
     // The same time of day `days` days later (earlier when negative): not always a multiple of 24 hours.
     [[nodiscard]] QDateTime dateByAddingDays(int days, const QDateTime& date) const;
-    // The first instant of the first day of `year`.
+    // The first instant of `year`, or of a month in it.
     [[nodiscard]] QDateTime startOfYear(int year) const;
+    [[nodiscard]] QDateTime startOfMonth(int year, int month) const;
 
 private:
     explicit Calendar(std::shared_ptr<void*> icuCalendar)

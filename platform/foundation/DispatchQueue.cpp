@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QThreadPool>
 #include <QTimer>
+#include <deque>
+#include <mutex>
 #include <utility>
 
 namespace {
@@ -22,25 +24,61 @@ public:
     }
 };
 
-class ThreadPoolQueue final : public DispatchQueue
+// Time passes on the main queue.
+class OtherThreadsQueue : public DispatchQueue
 {
 public:
-    void async(Work work) override { QThreadPool::globalInstance()->start(std::move(work)); }
-
     void asyncAfter(std::chrono::milliseconds delay, Work work) override
     {
         DispatchQueue::main().asyncAfter(delay, [this, work = std::move(work)] { async(work); });
     }
 };
 
-class ImmediateQueue final : public DispatchQueue
+class ThreadPoolQueue final : public OtherThreadsQueue
+{
+public:
+    void async(Work work) override { QThreadPool::globalInstance()->start(std::move(work)); }
+};
+
+class OneAtATimeQueue final : public OtherThreadsQueue
+{
+public:
+    void async(Work work) override
+    {
+        {
+            const std::lock_guard lock(mutex);
+            waiting.push_back(std::move(work));
+            if (std::exchange(running, true))
+                return;
+        }
+        DispatchQueue::global().async([this] {
+            while (const Work next = takeNext())
+                next();
+        });
+    }
+
+private:
+    // Empty: nothing waits any more.
+    Work takeNext()
+    {
+        const std::lock_guard lock(mutex);
+        running = !waiting.empty();
+        if (!running)
+            return {};
+        Work next = std::move(waiting.front());
+        waiting.pop_front();
+        return next;
+    }
+
+    std::mutex mutex;
+    std::deque<Work> waiting;
+    bool running = false;
+};
+
+class ImmediateQueue final : public OtherThreadsQueue
 {
 public:
     void async(Work work) override { work(); }
-    void asyncAfter(std::chrono::milliseconds delay, Work work) override
-    {
-        DispatchQueue::main().asyncAfter(delay, std::move(work));
-    }
 };
 
 DispatchQueue& eventLoop()
@@ -79,4 +117,10 @@ DispatchQueue& DispatchQueue::global()
     if (installedMainQueue() == &eventLoop())
         return threads;
     return immediate;
+}
+
+DispatchQueue& DispatchQueue::serial()
+{
+    static OneAtATimeQueue queue;
+    return queue;
 }

@@ -12,7 +12,7 @@ public:
     using Work = std::function<void()>;
 
     // Puts `queue` in the place of the main queue for as long as the scope lives; scopes nest. `queue` must
-    // outlive it. Meanwhile the global queue runs its work at once.
+    // outlive it. Meanwhile the queues for other threads run their work at once.
     class MainScope
     {
     public:
@@ -33,6 +33,8 @@ public:
     // Threads of its own, one for each core, for work that would keep the user waiting. The end of the
     // process waits for it.
     static DispatchQueue& global();
+    // The same, but for one thing after the other, in the order given.
+    static DispatchQueue& serial();
 
     virtual void async(Work work) = 0;
     virtual void asyncAfter(std::chrono::milliseconds delay, Work work) = 0;

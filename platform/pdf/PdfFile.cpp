@@ -1,5 +1,6 @@
 #include "platform/pdf/PdfFile.h"
 
+#include "platform/foundation/Console.h"
 #include "platform/pdf/PdfText.h"
 #include "platform/toolkit/TextDocument.h"
 
@@ -11,7 +12,9 @@
 
 namespace {
 
-constexpr int dotsPerInch = 600;
+// The layout counts in 64ths of a dot, in 32 bits: so many dots an inch leave room for 19,000 pages. Glyphs
+// are placed by their design, not by whole dots.
+constexpr int dotsPerInch = 144;
 constexpr double pointsPerInch = 72;
 // What keeps the text off the paper's edge: half an inch, in the screen's dots, which the layout scales by
 // itself.
@@ -45,6 +48,8 @@ void paintPages(const QTextDocument& document, QPdfWriter& writer)
 {
     QPainter painter(&writer);
     const int pages = document.pageCount();
+    if (pages < 1)
+        fatalError(QStringLiteral("The report has no pages"));
     for (int number = 0; number < pages; ++number) {
         if (number > 0) {
             writer.newPage();
@@ -85,6 +90,7 @@ QByteArray pdfOf(const NSAttributedString& text, const QSizeF& pageSize)
     writer.setPageMargins(QMarginsF());
     QTextDocument document;
     document.documentLayout()->setPaintDevice(&writer);
+    document.setUseDesignMetrics(true);
     document.setDocumentMargin(inset);
     document.setPageSize(pageSize * dotsPerInch / pointsPerInch);
     fillDocument(document, text);

@@ -8,7 +8,7 @@ struct PdfPageItems
 {
     std::vector<PdfTextItem> items;
     // Where the page begins in what the painter was told.
-    double top;
+    double top = 0;
 };
 
 // `content`, that of a page, with replacement text for each item that its glyphs would not give back: around

@@ -2,6 +2,7 @@
 
 #include "platform/services/Device.h"
 
+#include <QImageReader>
 #include <QPointer>
 
 namespace {
@@ -9,11 +10,20 @@ namespace {
 const QString jpegType = QStringLiteral("public.jpeg");
 const QString pngType = QStringLiteral("public.png");
 
+QString readableImages()
+{
+    QStringList patterns;
+    for (const char* format : {"jpg", "jpeg", "png", "webp", "gif", "bmp"})
+        if (QImageReader::supportedImageFormats().contains(format))
+            patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
+    return patterns.join(u' ');
+}
+
 QStringList nameFiltersFor(const QStringList& types)
 {
     const QString everything = QStringLiteral("All files (*)");
     if (types.contains(jpegType) || types.contains(pngType))
-        return {QStringLiteral("Images (*.jpg *.jpeg *.png *.webp *.gif *.bmp)"), everything};
+        return {QStringLiteral("Images (%1)").arg(readableImages()), everything};
     return {everything};
 }
 

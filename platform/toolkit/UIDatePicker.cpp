@@ -1,5 +1,7 @@
 #include "platform/toolkit/UIDatePicker.h"
 
+#include "platform/foundation/DateFormatter.h"
+
 UIDatePicker::UIDatePicker(QObject* parent)
     : UIView(parent)
     , moment(QDateTime::currentDateTimeUtc())
@@ -10,6 +12,13 @@ void UIDatePicker::setSize(double width, double height)
 {
     assign(widthValue, width);
     assign(heightValue, height);
+}
+
+QString UIDatePicker::dateText() const
+{
+    DateFormatter formatter;
+    formatter.setDateStyle(DateStyle::Medium);
+    return formatter.stringFrom(moment);
 }
 
 void UIDatePicker::pick(int year, int month, int day)

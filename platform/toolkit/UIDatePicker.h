@@ -15,6 +15,8 @@ class UIDatePicker : public UIView
     Q_PROPERTY(int year READ year NOTIFY changed FINAL)
     Q_PROPERTY(int month READ month NOTIFY changed FINAL)
     Q_PROPERTY(int day READ day NOTIFY changed FINAL)
+    // In the user's locale, such as "Mar 5, 2021".
+    Q_PROPERTY(QString dateText READ dateText NOTIFY changed FINAL)
     Q_PROPERTY(Style preferredDatePickerStyle READ preferredDatePickerStyle NOTIFY changed FINAL)
     Q_PROPERTY(double width READ width NOTIFY changed FINAL)
     Q_PROPERTY(double height READ height NOTIFY changed FINAL)
@@ -34,6 +36,7 @@ public:
     [[nodiscard]] int year() const { return localDay().year(); }
     [[nodiscard]] int month() const { return localDay().month(); }
     [[nodiscard]] int day() const { return localDay().day(); }
+    [[nodiscard]] QString dateText() const;
 
     [[nodiscard]] Style preferredDatePickerStyle() const { return style; }
     void setPreferredDatePickerStyle(Style value) { assign(style, value); }

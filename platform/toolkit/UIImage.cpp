@@ -7,6 +7,10 @@
 namespace {
 
 constexpr int decodingLimitMiB = 128;
+constexpr int bytesPerMiB = 1024 * 1024;
+constexpr int bytesPerPixel = 4;
+// A photo of a telephone may have 200 million.
+constexpr qint64 mostPixels = 256'000'000;
 constexpr int qualityScale = 100;
 
 QImage onWhite(const QImage& image)
@@ -19,6 +23,15 @@ QImage onWhite(const QImage& image)
     return opaque;
 }
 
+// Half as large until it may be decoded. What JPEG leaves out in this way is never held in memory.
+QSize decodedSize(QSize size)
+{
+    constexpr qint64 limit = qint64(decodingLimitMiB) * bytesPerMiB / bytesPerPixel;
+    while (qint64(size.width()) * size.height() > limit)
+        size /= 2;
+    return size;
+}
+
 } // namespace
 
 QImage imageWithData(const QByteArray& bytes)
@@ -29,6 +42,11 @@ QImage imageWithData(const QByteArray& bytes)
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     QImageReader::setAllocationLimit(decodingLimitMiB);
+    const QSize size = reader.size();
+    if (qint64(size.width()) * size.height() > mostPixels)
+        return {};
+    if (size.isValid() && decodedSize(size) != size)
+        reader.setScaledSize(decodedSize(size));
     return reader.read();
 }
 

@@ -4,12 +4,6 @@ import QtQuick
 DateView {
     id: compact
 
-    function dateText(): string {
-        const shown = new Date(2000, 0, 1);
-        shown.setFullYear(compact.picker.year, compact.picker.month - 1, compact.picker.day);
-        return shown.toLocaleDateString(Qt.locale(), "d MMM yyyy");
-    }
-
     implicitHeight: calendar.visible ? calendar.y + calendar.implicitHeight : 216
 
     PushButton {
@@ -19,7 +13,7 @@ DateView {
         y: calendar.visible ? 8 : 84
         width: 200
         shades: compact.shades
-        title: compact.picker !== null ? compact.dateText() : ""
+        title: compact.picker !== null ? compact.picker.dateText : ""
         onTriggered: calendar.visible = !calendar.visible
     }
 

@@ -22,6 +22,9 @@ Pressable {
     implicitWidth: Math.max(Theme.target, content.implicitWidth + 2 * Theme.margin)
     visible: openness > 0
     opacity: openness
+    // What is folded away would take the Enter key unseen.
+    onVisibleChanged: if (openness === 0)
+        focus = false
 
     Behavior on openness {
         NumberAnimation {

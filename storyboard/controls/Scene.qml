@@ -83,10 +83,14 @@ Layout {
         clip: inputPanel.height > 0
     }
 
-    // A stroke from the left edge goes back, as the button does.
+    // A stroke from the left edge goes back, as the button does. A tap there is one beside the fields.
     Item {
         width: 16
         height: parent.height
+
+        TapHandler {
+            onTapped: FirstResponder.current?.resignFirstResponder()
+        }
 
         DragHandler {
             target: null

@@ -15,7 +15,9 @@ FocusScope {
 
     signal triggered
 
+    // Rows that have gone leave the list's idea of where it begins behind until it is laid out.
     function showTop() {
+        list.forceLayout();
         list.contentY = list.originY - list.topMargin;
     }
 

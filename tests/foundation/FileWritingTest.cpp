@@ -19,7 +19,8 @@ TEST(FileWritingTest, WhatDoesNotFitLeavesTheOldFileAndTellsWhy)
 {
     const QString path = QDir::home().filePath("Marrowvale.csv");
     ASSERT_TRUE(writeAtomically("old", path).ok());
-    constexpr rlimit smallFiles{64 * 1024, 64 * 1024};
+    constexpr rlim_t most = 65536;
+    constexpr rlimit smallFiles{most, most};
     std::signal(SIGXFSZ, SIG_IGN);
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &smallFiles), 0);
     EXPECT_EQ(problemOf(writeAtomically(QByteArray(1024 * 1024, 'x'), path)), "File too large");

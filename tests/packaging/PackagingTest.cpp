@@ -106,7 +106,7 @@ TEST(PackagingTest, ThePackageBringsEveryQmlModuleThatScenesImport)
         answerOf(MARROWVALE_QML_IMPORT_SCANNER, {"-rootPath", sourceFolder + "/storyboard", "-importPath",
                                                  QLibraryInfo::path(QLibraryInfo::QmlImportsPath)});
     int found = 0;
-    for (const QJsonValue& module : QJsonDocument::fromJson(scan.output).array()) {
+    for (const auto& module : QJsonDocument::fromJson(scan.output).array()) {
         const QString folder = module.toObject().value("path").toString();
         if (folder.isEmpty())
             continue; // one of the program's own

@@ -132,6 +132,26 @@ TEST_F(WindowTest, PoppedScreensAndTheirLayoutsGoTogether)
     EXPECT_NE(visible(QAccessible::Button, "Menu"), nullptr);
 }
 
+TEST_F(WindowTest, ASearchShowsItsRowsWhereverTheListStood)
+{
+    for (int copy = 0; copy < 60; ++copy)
+        given({.name = copy < 5 ? "Bear" : "Alien", .genre = "Comedy", .year = 1979});
+    follow("MovieList");
+    const auto rowsInSight = [&] {
+        int rows = 0;
+        forEachAccessible(*window, [&](QAccessibleInterface& seen) {
+            const QAccessible::State state = seen.state();
+            rows += seen.role() == QAccessible::ListItem && !state.invisible && !state.offscreen ? 1 : 0;
+        });
+        return rows;
+    };
+    press(Qt::Key_End);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rowsInSight() > 1; }));
+    press(Qt::Key_F, Qt::ControlModifier);
+    type("bear");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rowsInSight() == 5; })) << rowsInSight();
+}
+
 // Each turn of the event loop leaves a layout half way in.
 TEST_F(WindowTest, ShowsTheTopScreenHoweverFastTheStackTurns)
 {

@@ -174,6 +174,9 @@ TEST(ImageTest, OnlyPicturesWithinBoundsDecode)
     claim(18);
     claim(22);
     EXPECT_TRUE(imageWithData(huge).isNull());
+
+    const QByteArray photo = encoded(QImage(6400, 6000, QImage::Format_Grayscale8), "JPEG");
+    EXPECT_EQ(imageWithData(photo).size(), QSize(3200, 3000)) << "large photos are decoded smaller";
 }
 
 TEST(ImageTest, ACoverFillsTheSquareAndLosesTransparency)

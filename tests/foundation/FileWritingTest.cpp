@@ -23,7 +23,7 @@ TEST(FileWritingTest, WhatDoesNotFitLeavesTheOldFileAndTellsWhy)
     constexpr rlimit smallFiles{most, most};
     std::signal(SIGXFSZ, SIG_IGN);
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &smallFiles), 0);
-    EXPECT_EQ(problemOf(writeAtomically(QByteArray(1024 * 1024, 'x'), path)), "File too large");
+    EXPECT_EQ(problemOf(writeAtomically(QByteArray(1'000'000, 'x'), path)), "File too large");
     EXPECT_EQ(contentOf(path), "old");
     EXPECT_EQ(QDir::home().entryList({"Marrowvale*"}), QStringList("Marrowvale.csv"))
         << "nothing half written";

@@ -38,9 +38,16 @@ void DefaultsViewController::viewDidLoad()
 {
     dateTextField->setLayer({.cornerRadius = 5, .borderWidth = 1});
     dateTextField->setInputView(datePickerView);
+    dateTextField->setDelegate(this);
     datePickerView->setHidden(true);
     loadDefaultDate();
     loadPickerStyle();
+}
+
+bool DefaultsViewController::shouldChangeCharactersInRange(UITextField& /*field*/, const NSRange& /*range*/,
+                                                           const QString& /*string*/)
+{
+    return false;
 }
 
 void DefaultsViewController::loadDefaultDate()

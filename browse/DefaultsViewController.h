@@ -8,7 +8,7 @@
 #include "platform/toolkit/UIViewController.h"
 
 // The settings: a default watch date, and the style of the date pickers. Every change is stored at once.
-class DefaultsViewController : public UIViewController
+class DefaultsViewController : public UIViewController, public UITextFieldDelegate
 {
     Q_OBJECT
     QML_ELEMENT
@@ -45,6 +45,9 @@ public:
     // Stores today; the picker stays where it is.
     Q_INVOKABLE void todayClick();
     Q_INVOKABLE void dismissKeyboard();
+    // The picker alone changes the date: a typed one would be shown and never stored.
+    [[nodiscard]] bool shouldChangeCharactersInRange(UITextField& field, const NSRange& range,
+                                                     const QString& string) override;
 
     // Outlets. The three style switches, which share their names with their actions, are named plainly.
     UITextField* const dateTextField = new UITextField(this);

@@ -43,6 +43,8 @@ public:
     void setInputAccessoryView(std::unique_ptr<UIToolbar> value);
 
 protected:
+    // Line breaks, which are pasted, become blanks.
+    [[nodiscard]] QString fitted(const QString& text) const override;
     bool allowsChange(const NSRange& range, const QString& replacement) override;
 
 private:

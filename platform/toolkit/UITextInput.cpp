@@ -43,10 +43,11 @@ bool UITextInput::edit(const QString& newText)
 {
     if (newText == content)
         return true;
-    const TextChange change = changeBetween(content, newText);
+    const QString accepted = fitted(newText);
+    const TextChange change = changeBetween(content, accepted);
     if (!isEnabled() || !allowsChange(change.range, change.replacement))
         return false;
-    setText(newText);
+    setText(accepted);
     Q_EMIT editingChanged();
     return true;
 }

@@ -33,7 +33,7 @@ public:
     Q_INVOKABLE void resignFirstResponder();
 
     // The user changed the whole text to `newText` (typed, deleted, pasted). Answers whether the change was
-    // accepted; a layout whose change was refused shows `text` again.
+    // accepted, in the form that fits; a layout whose change was refused shows `text` again.
     Q_INVOKABLE bool edit(const QString& newText);
 
 Q_SIGNALS:
@@ -41,6 +41,8 @@ Q_SIGNALS:
     void editingChanged();
 
 protected:
+    // What a text becomes in this view.
+    [[nodiscard]] virtual QString fitted(const QString& text) const { return text; }
     virtual bool allowsChange(const NSRange& range, const QString& replacement) = 0;
 
 private:

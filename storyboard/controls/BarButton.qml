@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Window
 
 // A button of a navigation bar or a toolbar: a symbol, or a title where it has none. With a menu it opens that.
 Pressable {
@@ -16,7 +17,8 @@ Pressable {
     opacity: !available || !enabled ? 0.4 : down ? 0.5 : 1
     // By address: popups are loaded when the first is asked for.
     onMenuAsked: menu => Qt.createComponent("MenuPopup.qml").createObject(button, {
-        menu: menu
+        menu: menu,
+        focusedBefore: button.Window.activeFocusItem
     })
 
     Rectangle {

@@ -9,6 +9,8 @@ T.Popup {
     id: popup
 
     required property UIMenu menu
+    // Gets the keyboard back.
+    required property Item focusedBefore
 
     x: parent.width - width
     y: parent.height + 4
@@ -20,6 +22,7 @@ T.Popup {
     visible: true
     transformOrigin: T.Popup.TopRight
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    onAboutToHide: popup.focusedBefore?.forceActiveFocus()
     onClosed: destroy()
 
     enter: Transition {

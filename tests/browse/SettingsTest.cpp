@@ -234,6 +234,7 @@ TEST_F(SettingsTest, EnteringTheDateShowsThePickerAtItUnderABar)
     EXPECT_EQ(bar.items()[0]->title(), "Done");
     EXPECT_TRUE(bar.items()[1]->isFlexibleSpace());
     EXPECT_EQ(bar.items()[2]->title(), "Today");
+    EXPECT_FALSE(screen.dateTextField->edit("Mar 6, 2021")) << "what is typed would not be stored";
 }
 
 TEST_F(SettingsTest, ATextThatIsNoDateLeavesThePickerAsItIs)

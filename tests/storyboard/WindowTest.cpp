@@ -39,6 +39,21 @@ TEST_F(WindowTest, TheKeyboardSearchesAddsAndGoesBack)
     }
 }
 
+TEST_F(WindowTest, AMenuGivesTheKeyboardBack)
+{
+    follow("MovieList");
+    visible(QAccessible::Button, "Menu")
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
+    const auto isOpen = [&] { return visible(QAccessible::MenuItem, "By Genre") != nullptr; };
+    ASSERT_TRUE(QTest::qWaitFor(isOpen));
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !isOpen(); }));
+    press(Qt::Key_F, Qt::ControlModifier);
+    press(Qt::Key_Q);
+    EXPECT_NE(visible(QAccessible::StaticText, "# Movies = 0 of 1"), nullptr);
+}
+
 TEST_F(WindowTest, ARefusedCharacterLeavesTheFieldAsItWas)
 {
     follow("AddMovie");

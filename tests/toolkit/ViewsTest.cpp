@@ -51,6 +51,13 @@ TEST(TextFieldTest, AnEditIsToldAsTheSmallestChange)
     }
 }
 
+TEST(TextFieldTest, APastedTextBecomesOneLine)
+{
+    UITextField field;
+    EXPECT_TRUE(field.edit(QString::fromUtf8("Alien\r\nResurrection\n\u2028")));
+    EXPECT_EQ(field.text(), "Alien Resurrection  ");
+}
+
 TEST(TextFieldTest, ARefusedEditLeavesTheTextAndTellsNobody)
 {
     UITextField field;

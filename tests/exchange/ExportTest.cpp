@@ -19,13 +19,10 @@ class ExportTest : public CatalogueTest
 protected:
     void SetUp() override
     {
-        QDir::home().mkpath("real");
-        QFile::link(QDir::home().filePath("real"), QDir::home().filePath("tmp"));
-        qputenv("TMPDIR", QDir::home().filePath("tmp").toUtf8());
+        QFile::link(QDir::tempPath(), QDir::home().filePath("link"));
+        qputenv("TMPDIR", QDir::home().filePath("link").toUtf8());
         navigation.push(std::make_unique<ExportViewController>());
     }
-
-    void TearDown() override { qunsetenv("TMPDIR"); }
 
     ExportViewController& screen()
     {

@@ -28,13 +28,7 @@ protected:
     void SetUp() override
     {
         PrivateBusTest::SetUp();
-        qputenv("TMPDIR", QDir::homePath().toUtf8());
         FakePrograms::install("xdg-email");
-    }
-    void TearDown() override
-    {
-        PrivateBusTest::TearDown();
-        qunsetenv("TMPDIR");
     }
 
     // Silence is known for what it is after an instant.

@@ -10,10 +10,16 @@ Home::Home()
         qputenv(variable, path(folder).toUtf8());
     };
     point("HOME", QStringLiteral("."));
+    point("TMPDIR", QStringLiteral("tmp"));
     point("XDG_DATA_HOME", QStringLiteral("data"));
     point("XDG_CONFIG_HOME", QStringLiteral("config"));
     point("XDG_CACHE_HOME", QStringLiteral("cache"));
     point("XDG_RUNTIME_DIR", QStringLiteral("runtime"));
     QFile::setPermissions(path(QStringLiteral("runtime")),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+Home::~Home()
+{
+    outerTemporaryPlace.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", outerTemporaryPlace);
 }

@@ -1,7 +1,6 @@
 #include "tests/support/Home.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QHashSeed>
 #include <QLocale>
 #include <gtest/gtest.h>
@@ -23,21 +22,10 @@ void pinSurroundings()
 
 class FreshHomePerTest : public testing::EmptyTestEventListener
 {
-    void OnTestStart(const testing::TestInfo&) override
-    {
-        home.emplace();
-        places.append(QDir::cleanPath(qEnvironmentVariable("HOME")));
-    }
+    void OnTestStart(const testing::TestInfo&) override { home.emplace(); }
     void OnTestEnd(const testing::TestInfo&) override { home.reset(); }
-    // A sound library that was given up may have written on.
-    void OnTestProgramEnd(const testing::UnitTest&) override
-    {
-        for (const QString& place : places)
-            QDir(place).removeRecursively();
-    }
 
     std::optional<Home> home;
-    QStringList places;
 };
 
 } // namespace
@@ -47,6 +35,7 @@ int main(int argc, char** argv)
     pinSurroundings();
     testing::InitGoogleTest(&argc, argv);
     GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const Home outermost;
     const QApplication application(argc, argv);
     testing::UnitTest::GetInstance()->listeners().Append(new FreshHomePerTest);
     return RUN_ALL_TESTS();

@@ -14,7 +14,7 @@ Pressable {
 
     implicitWidth: Math.max(Theme.target, shownImage.length > 0 ? 0 : label.implicitWidth + 16)
     implicitHeight: Theme.target
-    opacity: !available || !enabled ? 0.4 : down ? 0.5 : 1
+    opacity: !enabled ? 0.4 : down ? 0.5 : 1
     // By address: popups are loaded when the first is asked for.
     onMenuAsked: menu => Qt.createComponent("MenuPopup.qml").createObject(button, {
         menu: menu,

@@ -27,27 +27,16 @@ Item {
         edited: field.outlet.editing
         shades: field.shades
 
-        TextInput {
+        InputLine {
             id: input
 
             anchors.fill: parent
             leftPadding: 10
             rightPadding: 10
-            verticalAlignment: TextInput.AlignVCenter
             enabled: field.outlet.enabled
-            activeFocusOnTab: true
-            clip: true
-            selectByMouse: true
-            color: field.shades.text
-            selectionColor: field.shades.accent
-            selectedTextColor: field.shades.accentText
-            font.family: Theme.fontFamily
-            font.pixelSize: Theme.body
+            label: field.label
+            shades: field.shades
             inputMethodHints: field.digits ? Qt.ImhDigitsOnly : Qt.ImhNone
-
-            Accessible.role: Accessible.EditableText
-            Accessible.name: field.label
-            Accessible.editable: true
 
             onTextEdited: link.typed()
             onFocusChanged: link.focusMoved()

@@ -28,12 +28,6 @@ FocusScope {
             panel.shownField = panel.field;
     }
 
-    // Opened again it starts afresh: the same picker may prefer another style by then.
-    function clear() {
-        panel.focus = false;
-        panel.shownField = null;
-    }
-
     function load() {
         const values = {
             picker: panel.shownView
@@ -45,11 +39,16 @@ FocusScope {
     }
 
     onFieldChanged: keepField()
-    onWantedChanged: keepField()
+    onWantedChanged: {
+        keepField();
+        if (!panel.wanted)
+            panel.focus = false;
+    }
     onShownViewChanged: load()
     onFocusChanged: FirstResponder.panelFocused = focus
+    // Opened again it starts afresh: the same picker may prefer another style by then.
     onOpennessChanged: if (openness === 0)
-        clear()
+        panel.shownField = null
 
     height: openness * content.height
     visible: openness > 0

@@ -1,9 +1,10 @@
 import QtQuick
+import Marrowvale.Controls
 import Marrowvale.Toolkit
 
 // What buttons share: tapping, the keyboard, assistive technology. A tap doesn't take the keyboard away from where
 // it is.
-Item {
+ButtonItem {
     id: pressable
 
     property UIButton outlet: null
@@ -21,7 +22,7 @@ Item {
     signal menuAsked(menu: UIMenu)
 
     function press() {
-        if (!pressable.available)
+        if (!pressable.enabled)
             return;
         if (pressable.outlet !== null && pressable.outlet.menu !== null)
             pressable.menuAsked(pressable.outlet.menu);
@@ -29,13 +30,12 @@ Item {
             pressable.triggered();
     }
 
-    activeFocusOnTab: pressable.available
+    enabled: available
+    activeFocusOnTab: true
+    onPressAsked: press()
 
     Accessible.role: Accessible.Button
     Accessible.name: outlet !== null && outlet.accessibilityLabel.length > 0 ? outlet.accessibilityLabel : shownTitle
-    Accessible.focusable: true
-    Accessible.focused: activeFocus
-    Accessible.onPressAction: press()
 
     Keys.onReturnPressed: event => press()
     Keys.onEnterPressed: event => press()
@@ -48,7 +48,6 @@ Item {
         property bool pointed: false
 
         anchors.fill: parent
-        enabled: pressable.available
         hoverEnabled: true
         cursorShape: Qt.PointingHandCursor
         onPositionChanged: pointed = true

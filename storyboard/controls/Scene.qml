@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Window
 import Marrowvale.Toolkit
 
 // The frame of most layouts: navigation bar, content, and the panel in the keyboard's place.
@@ -12,6 +13,9 @@ Layout {
     property alias barItems: itemRow.data
     default property alias content: body.data
     readonly property bool canGoBack: navigationDepth > 1
+    readonly property Item focusItem: Window.activeFocusItem
+    // Had the keyboard before it fell to the scene: editing ended, or a button can't be pressed any more.
+    property Item lastFocused: null
 
     function goBack() {
         if (!scene.settled)
@@ -22,6 +26,18 @@ Layout {
             scene.homeButton.press();
     }
 
+    // From where the keyboard last was.
+    function moveFocus(event, forward: bool) {
+        event.accepted = scene.focusItem === scene && scene.lastFocused !== null;
+        if (event.accepted)
+            scene.lastFocused.nextItemInFocusChain(forward).forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
+    }
+
+    onFocusItemChanged: if (scene.activeFocus && scene.focusItem !== scene && !inputPanel.activeFocus)
+        scene.lastFocused = scene.focusItem
+
+    Keys.onTabPressed: event => scene.moveFocus(event, true)
+    Keys.onBacktabPressed: event => scene.moveFocus(event, false)
     Keys.onEscapePressed: {
         if (FirstResponder.current !== null)
             FirstResponder.current.resignFirstResponder();

@@ -64,28 +64,17 @@ FocusScope {
         font: input.font
     }
 
-    TextInput {
+    InputLine {
         id: input
 
         anchors.left: glass.right
         anchors.leftMargin: 8
         anchors.right: clear.left
         height: parent.height
-        verticalAlignment: TextInput.AlignVCenter
+        label: bar.outlet.placeholder
         focus: true
-        activeFocusOnTab: true
-        clip: true
-        selectByMouse: true
-        color: Theme.shades.text
-        selectionColor: Theme.shades.accent
-        selectedTextColor: Theme.shades.accentText
-        font.family: Theme.fontFamily
-        font.pixelSize: Theme.body
         inputMethodHints: Qt.ImhNoPredictiveText
 
-        Accessible.role: Accessible.EditableText
-        Accessible.name: bar.outlet.placeholder
-        Accessible.editable: true
         Accessible.searchEdit: true
 
         onTextEdited: bar.search(text)

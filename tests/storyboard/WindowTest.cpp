@@ -72,6 +72,17 @@ TEST_F(WindowTest, ARefusedCharacterLeavesTheFieldAsItWas)
     EXPECT_EQ(input->property("text"), "1950");
 }
 
+TEST_F(WindowTest, TypingIntoALongLineLosesNothingOfIt)
+{
+    follow("AddMovie");
+    auto& name = *static_cast<AddMovieViewController&>(*navigation().topViewController()).MovieNameTextField;
+    name.setText(QString(40'000, 'x'));
+    qobject_cast<QQuickItem*>(visible(QAccessible::EditableText, "Movie Name")->object())->forceActiveFocus();
+    press(Qt::Key_End);
+    type("y");
+    EXPECT_EQ(name.text(), QString(40'000, 'x') + 'y');
+}
+
 TEST_F(WindowTest, AFingerDrawsTheListAlongAndOpensNoRow)
 {
     for (int number = 0; number < 30; ++number)

@@ -1,10 +1,8 @@
 #include "summaries/MovieReport.h"
 
+#include "platform/toolkit/UIImage.h"
 #include "resources/Resources.h"
 #include "summaries/PeopleText.h"
-
-#include <QBuffer>
-#include <QImageReader>
 
 namespace {
 
@@ -45,10 +43,9 @@ QSizeF scaledToWidth(const QSizeF& size, double width)
 }
 
 // Absent where `encoded` is no picture.
-std::optional<TextAttachment> coverAttachment(QByteArray encoded, double width)
+std::optional<TextAttachment> coverAttachment(const QByteArray& encoded, double width)
 {
-    QBuffer buffer(&encoded);
-    const QSize size = QImageReader(&buffer).size();
+    const QSize size = imageSizeOfData(encoded);
     if (size.isEmpty())
         return std::nullopt;
     return TextAttachment{encoded, {}, scaledToWidth(size, width)};

@@ -32,15 +32,34 @@ QSize decodedSize(QSize size)
     return size;
 }
 
+struct DataReader
+{
+    explicit DataReader(const QByteArray& bytes)
+    {
+        buffer.setData(bytes);
+        reader.setDevice(&buffer);
+        reader.setDecideFormatFromContent(true);
+        reader.setAutoTransform(true);
+    }
+
+    QBuffer buffer;
+    QImageReader reader;
+};
+
 } // namespace
+
+QSize imageSizeOfData(const QByteArray& bytes)
+{
+    const DataReader data(bytes);
+    const QSize size = data.reader.size();
+    return data.reader.transformation().testFlag(QImageIOHandler::TransformationRotate90) ? size.transposed()
+                                                                                          : size;
+}
 
 QImage imageWithData(const QByteArray& bytes)
 {
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
+    DataReader data(bytes);
+    QImageReader& reader = data.reader;
     QImageReader::setAllocationLimit(decodingLimitMiB);
     const QSize size = reader.size();
     if (qint64(size.width()) * size.height() > mostPixels)

@@ -8,6 +8,10 @@
 // of pixels.
 [[nodiscard]] QImage imageWithData(const QByteArray& bytes);
 
+// How large `imageWithData` shows the picture in `bytes`, without decoding it; empty where there is none.
+// Large pictures are decoded smaller, in the same shape.
+[[nodiscard]] QSize imageSizeOfData(const QByteArray& bytes);
+
 // `quality` from 0 to 1; empty where `image` is null or can't be encoded. Transparent parts come out white.
 [[nodiscard]] QByteArray UIImageJPEGRepresentation(const QImage& image, double quality);
 

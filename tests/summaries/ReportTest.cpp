@@ -94,25 +94,34 @@ TEST_F(ReportTest, EveryKindHasItsTextAndFile)
     }
 }
 
+// As a camera writes that was held upright: its first row is the picture's right side.
+QByteArray heldUpright(const QByteArray& jpeg)
+{
+    return QByteArray(jpeg).insert(
+        2, QByteArray::fromHex(
+               "ffe1 0022 457869660000 4d4d002a00000008 0001 0112 0003 00000001 00060000 00000000"));
+}
+
 TEST_F(ReportTest, FollowsTheSearchAndTheViewsWidth)
 {
     const auto covered = given({.name = "Bee", .genre = "Horror"});
     QImage cover(300, 150, QImage::Format_RGB32);
     cover.fill(Qt::red);
     covered->setFrontCover(UIImageJPEGRepresentation(cover, 0.9));
+    given({.name = "By phone", .genre = "Horror"})->setFrontCover(heldUpright(*covered->frontCover()));
     given({.name = "Bad cover", .genre = "Horror"})->setFrontCover(QByteArray("no picture"));
     given({.name = "Ant", .genre = "Horror"});
     auto& screen = opened<GenreBreakdownTableViewController>();
     screen.viewWidth = 600;
     screen.searchController->searchBar()->setText("b");
     share(screen);
-    EXPECT_EQ(screen.MovieString.string().count("Movie Name: "), 2);
+    EXPECT_EQ(screen.MovieString.string().count("Movie Name: "), 3);
     std::vector<QSizeF> sizes;
     for (const auto& run : screen.MovieString.runs())
         if (run.attachment)
             sizes.push_back(run.attachment->size);
     const QSizeF logo = QSizeF(movieLogo().size()) * (100.0 / movieLogo().width());
-    EXPECT_EQ(sizes, std::vector<QSizeF>({logo, QSizeF(100, 50)}));
+    EXPECT_EQ(sizes, std::vector<QSizeF>({logo, QSizeF(100, 50), QSizeF(100, 200)}));
 }
 
 TEST_F(ReportTest, TheFileReadsAsItsText)

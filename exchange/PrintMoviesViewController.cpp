@@ -8,6 +8,7 @@
 #include "platform/toolkit/UIAlertController.h"
 #include "summaries/MovieReport.h"
 
+#include <QPointer>
 #include <limits>
 
 namespace {
@@ -95,5 +96,11 @@ void PrintMoviesViewController::print()
     controller.printFormatter = UISimpleTextPrintFormatter(FileTextView->attributedText());
     controller.showsNumberOfCopies = true;
     controller.printInfo.outputType = UIPrintInfo::OutputType::General;
-    controller.present(true, tellOfPrinting);
+    const auto told = [screen = QPointer(this)](bool completed, const std::optional<NSError>& error) {
+        if (screen)
+            screen->activityIndicator->stopAnimating();
+        tellOfPrinting(completed, error);
+    };
+    if (controller.present(true, told))
+        activityIndicator->startAnimating();
 }

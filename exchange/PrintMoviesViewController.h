@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Movies.h"
+#include "platform/toolkit/UIActivityIndicatorView.h"
 #include "platform/toolkit/UIButton.h"
 #include "platform/toolkit/UITextView.h"
 #include "platform/toolkit/UIViewController.h"
@@ -15,6 +16,7 @@ class PrintMoviesViewController : public UIViewController
     Q_PROPERTY(UIButton* PrintButton MEMBER PrintButton CONSTANT FINAL)
     Q_PROPERTY(UIButton* CreateFileButton MEMBER CreateFileButton CONSTANT FINAL)
     Q_PROPERTY(UITextView* FileTextView MEMBER FileTextView CONSTANT FINAL)
+    Q_PROPERTY(UIActivityIndicatorView* activityIndicator MEMBER activityIndicator CONSTANT FINAL)
 
 public:
     using UIViewController::UIViewController;
@@ -32,6 +34,8 @@ public:
     UIButton* const PrintButton = new UIButton(this);
     UIButton* const CreateFileButton = new UIButton(this);
     UITextView* const FileTextView = new UITextView(this);
+    // Turns from asking to print until that is sent or cancelled: thousands of movies take a while.
+    UIActivityIndicatorView* const activityIndicator = new UIActivityIndicatorView(this);
 
     std::vector<std::shared_ptr<Movies>> MovieList;
     NSAttributedString MovieString;

@@ -52,4 +52,10 @@ Scene {
             emptyText: "Nothing created yet"
         }
     }
+
+    ActivityIndicator {
+        anchors.fill: parent
+        outlet: root.screen.activityIndicator
+        name: "Printing"
+    }
 }

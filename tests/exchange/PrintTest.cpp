@@ -98,8 +98,10 @@ TEST_F(PrintTest, ThePrinterGetsTheTextShownAndTheConsoleTheOutcome)
     ASSERT_EQ(device.printerTwin->printed.size(), 1U);
     EXPECT_TRUE(device.printerTwin->printed.front().showsNumberOfCopies);
     const auto outcome = [&](bool completed, const std::optional<NSError>& error) {
+        EXPECT_TRUE(screen.activityIndicator->isAnimating());
         testing::internal::CaptureStdout();
         std::exchange(device.printerTwin->told, nullptr)(completed, error);
+        EXPECT_FALSE(screen.activityIndicator->isAnimating());
         screen.EmailFileClick();
         return testing::internal::GetCapturedStdout();
     };

@@ -95,7 +95,7 @@ void pickDates(Tour& tour)
     tour.step("Or from a button that opens the month");
     settings.setBool(true, "UseDateCompact");
     visitor.tap(field("Date Watched"));
-    visitor.tap(button(QLocale().toString(today, "d MMM yyyy")));
+    visitor.tap(button(QLocale().toString(today, "MMM d, yyyy")));
     visitor.tap(button("12"));
     tour.picture("date-compact");
     visitor.expectText(field("Date Watched"), fullText(QDate(today.year(), today.month(), 12)));

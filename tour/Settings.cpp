@@ -85,7 +85,7 @@ void pickFromButton(Tour& tour)
     visitor.tap(defaultDate);
     visitor.expect(button("Today"));
     tour.picture("settings-compact");
-    visitor.tap(button(QLocale().toString(shown, "d MMM yyyy")));
+    visitor.tap(button(QLocale().toString(shown, "MMM d, yyyy")));
     tour.picture("settings-compact-open");
     visitor.tap(button("12"));
     expectDefaultDate(tour, QDate(shown.year(), shown.month(), 12));

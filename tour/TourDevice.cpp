@@ -1,5 +1,6 @@
 #include "tour/TourDevice.h"
 
+#include "platform/foundation/DispatchQueue.h"
 #include "resources/Resources.h"
 
 #include <QDir>
@@ -45,7 +46,10 @@ struct TourDevice::DeafAddressOpener : AddressOpener
 
 struct TourDevice::PaperlessPrinter : Printer
 {
-    void print(const PrintJob& /*job*/, Told told) override { told(true, std::nullopt); }
+    void print(const PrintJob& /*job*/, Told told) override
+    {
+        DispatchQueue::main().async([told = std::move(told)] { told(true, std::nullopt); });
+    }
     void cancelAsking() override {}
 };
 

@@ -3,6 +3,7 @@
 #include "tour/TourError.h"
 
 #include <QDir>
+#include <QFile>
 #include <QLocale>
 
 TourHome::TourHome(const QString& outputFolder)
@@ -18,6 +19,8 @@ TourHome::TourHome(const QString& outputFolder)
     point("XDG_DATA_HOME", "data");
     point("XDG_CONFIG_HOME", "config");
     point("XDG_CACHE_HOME", "cache");
+    point("XDG_RUNTIME_DIR", "runtime");
+    QFile::setPermissions(path("runtime"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("LC_ALL", "en_US.UTF-8");
     qputenv("LANGUAGE", "en_US");
     qputenv("TZ", "America/New_York");

@@ -1,10 +1,9 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Marrowvale.Controls
 import Marrowvale.Toolkit
 
-// A long text with its pictures: only the pieces in sight are laid out.
+// A long text with its pictures: only the pieces in sight are laid out. Enter begins editing, Escape ends it.
 Rectangle {
     id: view
 
@@ -22,6 +21,30 @@ Rectangle {
     ListView {
         id: list
 
+        function page(by: int) {
+            list.contentY += by * (list.height - 40);
+            list.returnToBounds();
+        }
+
+        function edit(row: int, atEnd: bool) {
+            if (!view.outlet.editable || row < 0 || row >= list.count)
+                return;
+            list.positionViewAtIndex(row, ListView.Contain);
+            (list.itemAtIndex(row) as TextLine)?.beginEditing(atEnd);
+        }
+
+        // -1 or 1 from `row`, or to an end of the text.
+        function moveCursor(row: int, way: int) {
+            const target = way === -2 ? 0 : way === 2 ? list.count - 1 : row + way;
+            list.edit(target, way === -1 || way === 2);
+        }
+
+        function reveal(line: TextLine) {
+            const top = line.y + line.cursor.y - 8;
+            const bottom = top + line.cursor.height + 16;
+            list.contentY = Math.max(bottom - list.height, Math.min(list.contentY, top));
+        }
+
         anchors.fill: parent
         anchors.margins: 1
         leftMargin: 10
@@ -33,8 +56,25 @@ Rectangle {
         model: view.outlet.pieces
         boundsBehavior: Flickable.StopAtBounds
 
-        Keys.onDownPressed: flick(0, -600)
-        Keys.onUpPressed: flick(0, 600)
+        Keys.onPressed: event => {
+            event.accepted = true;
+            if (event.key === Qt.Key_Down)
+                list.flick(0, -600);
+            else if (event.key === Qt.Key_Up)
+                list.flick(0, 600);
+            else if (event.key === Qt.Key_PageDown || event.key === Qt.Key_Space)
+                list.page(1);
+            else if (event.key === Qt.Key_PageUp)
+                list.page(-1);
+            else if (event.key === Qt.Key_Home)
+                list.positionViewAtBeginning();
+            else if (event.key === Qt.Key_End)
+                list.positionViewAtEnd();
+            else if (view.outlet.editable && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter))
+                list.edit(Math.max(0, list.indexAt(1, list.contentY + list.height / 4)), false);
+            else
+                event.accepted = false;
+        }
 
         Accessible.role: Accessible.List
         Accessible.name: view.name
@@ -43,50 +83,21 @@ Rectangle {
             view: list
         }
 
-        delegate: Item {
+        delegate: TextLine {
             id: line
 
-            required property int index
-            required property textPiece piece
-            readonly property bool isPicture: piece.imageSize.width > 0
-
-            width: ListView.view.width - 20
-            height: isPicture ? piece.imageSize.height : edit.implicitHeight
-
-            ImageItem {
-                visible: line.isPicture
-                width: line.piece.imageSize.width
-                height: line.piece.imageSize.height
-                image: line.piece.image // qmllint disable
-                fillMode: ImageItem.Stretch
-            }
-
-            TextEdit {
-                id: edit
-
-                width: parent.width
-                visible: !line.isPicture
-                text: line.piece.text
-                readOnly: !view.outlet.editable
-                selectByMouse: !readOnly
-                textFormat: TextEdit.PlainText
-                wrapMode: TextEdit.Wrap
-                horizontalAlignment: line.piece.centred ? TextEdit.AlignHCenter : TextEdit.AlignLeft
-                color: view.shades.text
-                selectionColor: view.shades.accent
-                selectedTextColor: view.shades.accentText
-                font.family: Theme.fontFamily
-                font.pixelSize: line.piece.fontSize > 0 ? line.piece.fontSize : Theme.small
-
-                Accessible.role: readOnly ? Accessible.StaticText : Accessible.EditableText
-                Accessible.name: readOnly ? text : view.name
-                Accessible.editable: !readOnly
-                Accessible.multiLine: true
-
-                onTextChanged: if (activeFocus && text !== line.piece.text)
-                    view.outlet.editPiece(line.index, text)
-            }
+            width: list.width - 20
+            outlet: view.outlet
+            name: view.name
+            shades: view.shades
+            onCursorMoved: list.reveal(line)
+            onCursorLeft: way => list.moveCursor(line.index, way)
         }
+    }
+
+    FocusRing {
+        visible: list.activeFocus
+        tint: view.shades.accent
     }
 
     Label {

@@ -1,4 +1,7 @@
+#include "exchange/ExportViewController.h"
 #include "tests/storyboard/SceneTest.h"
+
+#include <gmock/gmock.h>
 
 namespace {
 
@@ -51,6 +54,34 @@ TEST_F(FocusTest, GoesOnFromAButtonThatCannotBePressedAnyMore)
     EXPECT_FALSE(isEnabled("Create Export File"));
     press(Qt::Key_Tab);
     EXPECT_EQ(focused(), "Save To Files");
+}
+
+TEST_F(FocusTest, ALongTextIsEditedFromItsFirstLineToItsLast)
+{
+    for (int movie = 0; movie < 100; ++movie)
+        given({.name = QString("Movie of a catalogue, number %1").arg(movie), .genre = "Drama"});
+    follow("ImportExport");
+    follow("Export");
+    auto& screen = static_cast<ExportViewController&>(*navigation().topViewController());
+    screen.CreateUpdateFile();
+    queue.advance(std::chrono::milliseconds(999));
+    qobject_cast<QQuickItem*>(visible(QAccessible::List, "File Text")->object())->forceActiveFocus();
+    press(Qt::Key_Return);
+    type("a");
+    press(Qt::Key_End, Qt::ControlModifier);
+    type("z");
+    press(Qt::Key_Home, Qt::ControlModifier);
+    for (int line = 0; line < 400; ++line)
+        press(Qt::Key_Down);
+    type("y");
+    const auto text = [&] { return screen.ExportTextView->text(); };
+    EXPECT_EQ(text().left(2), "a[");
+    EXPECT_THAT(text().right(4).toStdString(), testing::AnyOf("\n\nyz", "\n\nzy"));
+    press(Qt::Key_Up);
+    press(Qt::Key_Escape);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), "Back");
+    EXPECT_FALSE(text().contains('\t'));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 import QtQuick
+import Marrowvale.Controls
 import Marrowvale.Toolkit
 
 // A table under its header. A chosen row triggers the segue.
@@ -106,6 +107,10 @@ FocusScope {
                 list.keepOpen(null);
             else
                 event.accepted = false;
+        }
+
+        RowOrder {
+            content: list.contentItem
         }
 
         ScrollBar {

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Marrowvale.Controls
 
 // A wheel of texts, turned by dragging, the mouse wheel, the arrow keys or a tap on a row. Showing a value is not
 // turning to it.
@@ -80,6 +81,10 @@ Item {
         flickDeceleration: 1200
         boundsBehavior: Flickable.DragAndOvershootBounds
         onMovementEnded: dial.turned(currentIndex)
+
+        RowOrder {
+            content: list.contentItem
+        }
 
         // Within the list, or that would scroll as well.
         WheelHandler {

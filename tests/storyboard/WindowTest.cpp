@@ -178,6 +178,25 @@ TEST_F(WindowTest, ASearchShowsItsRowsWhereverTheListStood)
     EXPECT_TRUE(QTest::qWaitFor([&] { return rowsInSight() == 5; })) << rowsInSight();
 }
 
+TEST_F(WindowTest, RowsAreReadFromTopToBottomWhereverTheListStands)
+{
+    for (int copy = 0; copy < 100; ++copy)
+        given({.name = "Alien", .genre = "Comedy", .year = 1979});
+    follow("MovieList");
+    const auto isInOrder = [&] {
+        QList<int> tops;
+        forEachAccessible(*window, [&](QAccessibleInterface& seen) {
+            if (seen.role() == QAccessible::ListItem && !seen.state().invisible)
+                tops.append(seen.rect().top());
+        });
+        return tops.size() > 5 && std::is_sorted(tops.begin(), tops.end());
+    };
+    for (const auto key : {Qt::Key_PageDown, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageUp}) {
+        press(key);
+        EXPECT_TRUE(QTest::qWaitFor(isInOrder));
+    }
+}
+
 // Each turn of the event loop leaves a layout half way in.
 TEST_F(WindowTest, ShowsTheTopScreenHoweverFastTheStackTurns)
 {

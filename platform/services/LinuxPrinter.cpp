@@ -11,6 +11,7 @@
 #include "platform/services/Spooler.h"
 
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QLocale>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -29,6 +30,16 @@ QString fileNameFor(const QString& job)
     const QString ending = QStringLiteral(".pdf");
     const QString name = harmlessFileName(job);
     return name.endsWith(ending, Qt::CaseInsensitive) ? name : name + ending;
+}
+
+// Qt 6.4's dialog asks its printer for the pages that are typed before it hands them over, and refuses all.
+void takePagesAsTyped(QPrintDialog& dialog)
+{
+    const auto* typed = dialog.findChild<QLineEdit*>(QStringLiteral("pagesLineEdit"));
+    if (typed != nullptr)
+        QObject::connect(typed, &QLineEdit::textChanged, &dialog, [&dialog](const QString& pages) {
+            dialog.printer()->setPageRanges(QPageRanges::fromString(pages));
+        });
 }
 
 } // namespace
@@ -81,7 +92,11 @@ void LinuxPrinter::openDialog()
     printer->setDocName(harmlessFileName(asking->job.name));
     dialog = new QPrintDialog(printer.get());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setOption(QAbstractPrintDialog::PrintPageRange, false);
+    // Of a file that stands, the queue chooses pages, and there is no other file to make.
+    const bool isFile = std::holds_alternative<PrintableFile>(asking->job.content);
+    dialog->setOption(QAbstractPrintDialog::PrintPageRange, !isFile);
+    dialog->setOption(QAbstractPrintDialog::PrintToFile, !isFile);
+    takePagesAsTyped(*dialog);
     stackAbove(*dialog, window);
     QObject::connect(dialog, &QDialog::finished, &works, [this, printer](int result) {
         dialog.clear();
@@ -94,7 +109,7 @@ void LinuxPrinter::openDialog()
 
 void LinuxPrinter::send(const Job& job, const PrintTarget& target)
 {
-    withPages(job, target.layout, [this, job, target](const QString& pages) {
+    withPages(job, target.pages, [this, job, target](const QString& pages) {
         const auto told = [job](const QString& problem) { job->end(problem); };
         if (target.file.isEmpty())
             spool(works, target, job->job.name, pages, told);
@@ -119,13 +134,13 @@ void LinuxPrinter::offerAsFile(const Job& job)
         Device::current().documents->saveDocument(fileNameFor(job->job.name), pages.value(),
                                                   [job](const QString& problem) { job->end(problem); });
     };
-    withPages(job, pageOfTheCountry(), [this, offer](const QString& path) {
+    withPages(job, {.layout = pageOfTheCountry()}, [this, offer](const QString& path) {
         inBackground(
             works, [path] { return readFile(path); }, offer);
     });
 }
 
-void LinuxPrinter::withPages(const Job& job, const QPageLayout& layout,
+void LinuxPrinter::withPages(const Job& job, const PageSetup& setup,
                              const std::function<void(const QString&)>& then)
 {
     if (const auto* file = std::get_if<PrintableFile>(&job->job.content)) {
@@ -133,8 +148,8 @@ void LinuxPrinter::withPages(const Job& job, const QPageLayout& layout,
         return;
     }
     const QString path = job->folder() + QStringLiteral("/pages.pdf");
-    const auto render = [content = job->job.content, layout, name = job->job.name, path] {
-        return renderPdf(content, layout, name, path);
+    const auto render = [content = job->job.content, setup, name = job->job.name, path] {
+        return renderPdf(content, setup, name, path);
     };
     inBackground(works, render, [job, path, then](const Status& rendered) {
         if (rendered)

@@ -7,8 +7,8 @@
 #include <chrono>
 
 class PendingPrint;
-class QPageLayout;
 class QPrintDialog;
+struct PageSetup;
 struct PrintTarget;
 
 // The desktop's print dialog and the spooler's own commands. The dialog asks the spooler for its queues and
@@ -32,8 +32,7 @@ private:
     void send(const Job& job, const PrintTarget& target);
     void offerAsFile(const Job& job);
     // Hands the path of the job's pages on, once there are any.
-    void withPages(const Job& job, const QPageLayout& layout,
-                   const std::function<void(const QString&)>& then);
+    void withPages(const Job& job, const PageSetup& setup, const std::function<void(const QString&)>& then);
 
     std::chrono::milliseconds patience;
     // What the user is being asked about; null: nothing.

@@ -19,7 +19,7 @@ void drawPicture(const QImage& picture, QPdfWriter& pages)
 
 } // namespace
 
-Status renderPdf(const PrintContent& content, const QPageLayout& layout, const QString& title,
+Status renderPdf(const PrintContent& content, const PageSetup& setup, const QString& title,
                  const QString& path)
 {
     QFile file(path);
@@ -29,7 +29,8 @@ Status renderPdf(const PrintContent& content, const QPageLayout& layout, const Q
         QPdfWriter pages(&file);
         pages.setCreator(QStringLiteral("Marrowvale"));
         pages.setTitle(title);
-        pages.setPageLayout(layout);
+        pages.setPageLayout(setup.layout);
+        pages.setPageRanges(setup.wanted);
         if (const auto* text = std::get_if<NSAttributedString>(&content))
             textDocument(*text)->print(&pages);
         else

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QPageLayout>
+#include "platform/services/PdfRendering.h"
+
 #include <QStringList>
 
 class QPrinter;
@@ -8,14 +9,14 @@ class QPrinter;
 // Where a user wants a job to go: to a queue, or into a file.
 struct PrintTarget
 {
-    // As the print dialog has set up `printer`.
+    // As the print dialog has set up `printer`. Pages that the queue is to choose are among the options.
     [[nodiscard]] static PrintTarget of(const QPrinter& printer);
 
     // Empty: the queue.
     QString file = {};
     QString queue = {};
-    QPageLayout layout = {};
+    PageSetup pages = {};
     int copies = 1;
-    // As the spooler names them, such as "sides=two-sided-long-edge".
+    // As the spooler names and reads them, such as "sides=two-sided-long-edge".
     QStringList options = {};
 };

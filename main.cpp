@@ -1,4 +1,5 @@
 #include "model/AppDelegate.h"
+#include "platform/foundation/TerminationSignals.h"
 #include "platform/services/Device.h"
 #include "storyboard/MainWindow.h"
 
@@ -6,10 +7,11 @@
 
 int main(int argc, char** argv)
 {
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("marrowvale"));
     QApplication::setApplicationDisplayName(QStringLiteral("Marrowvale"));
     QApplication::setDesktopFileName(QStringLiteral("marrowvale"));
+    quitAtTerminationSignals(application);
 
     const auto device = makeLinuxDevice();
     AppDelegate delegate;

@@ -5,7 +5,8 @@
 
 namespace {
 
-// Where Qt's print dialog leaves what the queue itself is to heed: names and values by turns.
+// Where Qt's print dialog leaves what the queue itself is to heed, names and values by turns: PPK_CupsOptions
+// of its private headers.
 constexpr auto queueOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
 
 QStringList sidesOption(QPrinter::DuplexMode duplex)

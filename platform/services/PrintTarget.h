@@ -16,6 +16,7 @@ struct PrintTarget
     QString file = {};
     QString queue = {};
     PageSetup pages = {};
+    // This and the options are heeded by a queue alone: a file gets its pages once, in their order.
     int copies = 1;
     // As the spooler names and reads them, such as "sides=two-sided-long-edge".
     QStringList options = {};

@@ -5,8 +5,8 @@
 #include <QTimer>
 
 // Keeps the rows of a list in their order from top to bottom, as assistive technology reads them: a list
-// makes rows in the order in which they come into sight, and uses them again. Nothing is done while nobody
-// reads.
+// makes rows in the order in which they come into sight, and uses them again. While it moves, nothing is
+// done.
 class RowOrder : public QObject
 {
     Q_OBJECT

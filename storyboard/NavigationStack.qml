@@ -107,6 +107,12 @@ FocusScope {
         focus: true
     }
 
+    // A second tap would meet what just comes in.
+    MouseArea {
+        anchors.fill: parent
+        enabled: slide.running
+    }
+
     PresentationHost {
         stage: root.stage
         presenter: root.stack.navigation.topViewController

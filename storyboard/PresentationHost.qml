@@ -14,9 +14,13 @@ Item {
     signal finished
 
     function follow() {
-        if (host.shown !== null)
-            host.shown.close();
+        const wasShown = host.shown;
+        if (wasShown !== null)
+            wasShown.close();
         host.shown = null;
+        // Nothing of its own to close: the keyboard comes back as soon as what stood above is gone, too.
+        if (wasShown === null && host.presented === null)
+            Qt.callLater(host.finished);
         const kind = host.stage.presentation(host.presented);
         if (kind === "alert")
             host.show("Alert.qml", {

@@ -7,7 +7,7 @@ Pressable {
     property bool picked: false
     property Shades shades: Theme.shades
 
-    implicitHeight: 40
+    implicitHeight: Theme.target
     activeFocusOnTab: false
 
     Accessible.selectable: true

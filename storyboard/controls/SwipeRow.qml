@@ -118,6 +118,8 @@ Item {
         }
 
         TapHandler {
+            // A finger has no buttons: it would count as one.
+            acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
             acceptedButtons: Qt.RightButton
             onTapped: row.uncover()
         }

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "tests/walk/ModelScene.h"
+
+#include <QHash>
+#include <map>
+
+// What an editor's fields show, by their labels.
+using FormTexts = QHash<QString, QString>;
+
+// An open movie editor.
+struct ModelEditor
+{
+    bool changesStoredMovie = false;
+    bool showsCover = false;
+    // The days that its date has had so far: the pickers' ways to one of them are their own business.
+    QSet<QDate> days;
+};
+
+// What the program should hold and show after each act of its user, as far as the catalogue and the lists go.
+// Screens go by numbers that are never used again.
+class ModelProgram
+{
+public:
+    explicit ModelProgram(ModelCatalogue initial)
+        : catalogue(std::move(initial))
+    {
+    }
+
+    void open(int screen, const QString& screenClass);
+    // It is on top, the first time or again.
+    void appear(int screen);
+    void close(int screen);
+
+    void tapSort(int screen);
+    void chooseOrder(int screen, MovieKey key);
+    void search(int screen, const QString& text);
+    void tapRow(int screen, std::size_t row);
+    void deleteRow(int screen, std::size_t row);
+
+    enum class Outcome { Alert, Stays, Leaves };
+    Outcome saveMovie(int screen, const FormTexts& form);
+    void showDate(int screen, const QString& text);
+    void showCover(int screen, bool shown);
+    void removeStoredCover(int screen);
+    Outcome addValue(ValueList list, const QString& text);
+    void renameValue(ValueList list, const QString& text);
+    void importText(QString text);
+
+    // An editor has saved, or a value was added or renamed: the list below reloads where it does so.
+    void comeBack(int screen);
+
+    // Takes over what only the store knows: ids, and which of the possible days was stored.
+    [[nodiscard]] QStringList compareWithStore();
+    // Null where the screen is no such list.
+    [[nodiscard]] ModelScene* list(int screen);
+    [[nodiscard]] ModelEditor* editor(int screen);
+
+    ModelCatalogue catalogue;
+
+private:
+    struct Chosen
+    {
+        ModelFilm film;
+        int month = 0;
+        int monthYear = 0;
+        QString values[3];
+    };
+    // A stored day that may be any of `days`.
+    struct OpenDay
+    {
+        FilmPointer film;
+        QSet<QDate> days;
+        bool setsParts;
+    };
+
+    void load(ModelScene& scene);
+    void keepTexts();
+    void write(ModelFilm& film, const FormTexts& form, const ModelEditor& editor);
+    void importLine(const QStringList& fields);
+
+    std::map<int, ModelScene> lists;
+    std::map<int, ModelEditor> editors;
+    Chosen chosen;
+    std::vector<OpenDay> openDays;
+};
+
+// As an editor's year and run time must read.
+[[nodiscard]] bool isInt16(const QString& text);

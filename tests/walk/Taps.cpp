@@ -1,0 +1,40 @@
+#include "tests/walk/Taps.h"
+
+QString Taps::act(const Seen& control, Hand::Way way, bool twice)
+{
+    const auto consequence = consequences.of(control);
+    if (!consequence)
+        return {};
+    static const QString ways[] = {"finger", "mouse", "assistive technology"};
+    state.hand.tap(control, way);
+    if (twice) {
+        state.hand.pass(60);
+        state.hand.tap(control, way);
+    }
+    state.conclude(*consequence);
+    return QString("tap %1%2 by %3")
+        .arg(control.shortName(), twice ? " twice" : "", ways[static_cast<int>(way)]);
+}
+
+QString Taps::tapControl(const Step& step)
+{
+    std::vector<Seen> controls = state.hand.inSight();
+    std::erase_if(controls, [](const Seen& seen) { return !seen.isPressable() || seen.isRow(); });
+    if (controls.empty())
+        return {};
+    const Seen& control = chosen(controls, step.first);
+    // Twice is for what leads away, where the second tap comes too late.
+    const bool leadsAway =
+        control.name == "Back" || control.name == "Save" || control.role == QAccessible::PageTab;
+    if (step.kind == Step::Kind::TapTwice && !leadsAway)
+        return {};
+    return act(control, static_cast<Hand::Way>(step.second % 3), step.kind == Step::Kind::TapTwice);
+}
+
+QString Taps::tapRow(const Step& step)
+{
+    const std::vector<Seen> rows = state.hand.rowsInSight();
+    if (rows.empty())
+        return {};
+    return act(chosen(rows, step.first), static_cast<Hand::Way>(step.second % 3), step.second % 7 == 0);
+}

@@ -123,7 +123,14 @@ Result<std::unique_ptr<Database>> Database::open(const QString& path, Access acc
     std::unique_ptr<Database> database(new Database(handle));
     if (code != SQLITE_OK)
         return sqliteError(handle);
-    sqlite3_busy_timeout(handle, busyTimeoutMilliseconds);
+    if (access != Access::Alone) {
+        sqlite3_busy_timeout(handle, busyTimeoutMilliseconds);
+        return database;
+    }
+    database->setCheckpointsOnClose(false);
+    // Before the first read, this also keeps the index of the log out of the file system.
+    if (const auto set = database->run("PRAGMA locking_mode = EXCLUSIVE"); !set)
+        return set.error();
     return database;
 }
 
@@ -165,6 +172,12 @@ qint64 Database::lastInsertId() const
 bool Database::isReadOnly() const
 {
     return sqlite3_db_readonly(handle.get(), "main") == 1;
+}
+
+bool Database::isBusy(const NSError& error)
+{
+    constexpr int primaryCode = 0xff;
+    return (error.userInfo.value(QStringLiteral("SQLiteCode")).toInt() & primaryCode) == SQLITE_BUSY;
 }
 
 void Database::setCheckpointsOnClose(bool on)

@@ -86,8 +86,15 @@ public:
         // Reads and writes, and makes the file when it is missing. Another writer is waited for, a few
         // seconds.
         ReadWrite,
-        // Reads the file as it lies there, without its log; takes no lock and leaves no trace.
-        Untouched
+        // Reads the file as it lies there, without its log; takes no lock and leaves no trace. Only a file
+        // without a log is sure to be whole.
+        Untouched,
+        // Reads the file through its log and leaves no trace: the index of the log stays in memory, and
+        // closing
+        // moves nothing. Fails with SQLITE_BUSY as soon as another connection holds the file. A write that
+        // was
+        // cut short (there is a journal) is undone by the first read.
+        Alone
     };
 
     [[nodiscard]] static Result<std::unique_ptr<Database>> open(const QString& path, Access access);
@@ -101,6 +108,8 @@ public:
     [[nodiscard]] bool inTransaction() const;
     [[nodiscard]] qint64 lastInsertId() const;
     [[nodiscard]] bool isReadOnly() const;
+    // Whether `error` came of another connection's lock.
+    [[nodiscard]] static bool isBusy(const NSError& error);
     // Whether closing the last connection moves the log into the file (it does) or leaves both as they are.
     void setCheckpointsOnClose(bool on);
 

@@ -17,6 +17,11 @@ NSError refusal(const QString& sentence)
     return {sentence, {}};
 }
 
+NSError readOnlyRefusal()
+{
+    return refusal(QStringLiteral("The store cannot be written to."));
+}
+
 Status prepareFile(const QFileInfo& file)
 {
     QDir directory = file.dir();
@@ -54,22 +59,36 @@ Status checkOwnership(Database& database, const NSManagedObjectModel& model)
     return success();
 }
 
-// Looks at the file without SQLite's usual traces. A file whose writing was cut short (it has a journal) only
-// makes sense once SQLite has repaired it.
-Status inspectUntouched(const QString& path, const NSManagedObjectModel& model)
+bool hasSideFile(const QString& path)
 {
-    if (QFileInfo(path).size() == 0 || QFileInfo::exists(path + QStringLiteral("-journal")))
-        return success();
-    auto opened = Database::open(path, Database::Access::Untouched);
-    return opened ? checkOwnership(*opened.value(), model) : Status(opened.error());
+    return QFileInfo(path + QStringLiteral("-wal")).size() > 0 ||
+           QFileInfo::exists(path + QStringLiteral("-journal"));
 }
 
-// The same look through the log, where a newer version's last steps may still be: until it is over, nothing
-// is written and closing moves nothing.
-Status inspectWithLog(Database& database, const NSManagedObjectModel& model)
+// Looks at the database without SQLite's usual traces. A file with a log makes sense only together with it:
+// the log holds the latest pages, and a checkpoint that was cut short leaves some of them in the file. While
+// another connection uses the file, the look of `inspectInUse` leaves no traces either, because its side
+// files exist.
+Status inspectUntouched(const QString& path, const NSManagedObjectModel& model)
+{
+    if (QFileInfo(path).size() == 0)
+        return success();
+    const auto access = hasSideFile(path) ? Database::Access::Alone : Database::Access::Untouched;
+    const auto opened = Database::open(path, access);
+    if (!opened)
+        return opened.error();
+    if (access == Database::Access::Alone && opened.value()->isReadOnly())
+        return readOnlyRefusal();
+    const auto checked = checkOwnership(*opened.value(), model);
+    return !checked && Database::isBusy(checked.error()) ? success() : checked;
+}
+
+// The same look on the connection that is to stay: another program may have used the file since. Until it is
+// over, nothing is written and closing moves nothing.
+Status inspectInUse(Database& database, const NSManagedObjectModel& model)
 {
     if (database.isReadOnly())
-        return refusal(QStringLiteral("The store cannot be written to."));
+        return readOnlyRefusal();
     database.setCheckpointsOnClose(false);
     const auto checked = checkOwnership(database, model);
     database.setCheckpointsOnClose(checked.ok());
@@ -78,7 +97,7 @@ Status inspectWithLog(Database& database, const NSManagedObjectModel& model)
 
 Status makeReady(Database& database, const NSManagedObjectModel& model)
 {
-    if (const auto inspected = inspectWithLog(database, model); !inspected)
+    if (const auto inspected = inspectInUse(database, model); !inspected)
         return inspected;
     for (const auto* setting : {"PRAGMA trusted_schema = OFF", "PRAGMA foreign_keys = ON",
                                 "PRAGMA journal_mode = WAL", "PRAGMA synchronous = FULL"}) {

@@ -40,10 +40,8 @@ QMap<QString, QByteArray> everythingIn(const QString& directory)
 {
     QMap<QString, QByteArray> found;
     for (const auto& entry :
-         QDir(directory).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden)) {
-        if (!entry.endsWith(QStringLiteral("-shm")))
-            found.insert(entry, bytesOf(directory + QLatin1Char('/') + entry));
-    }
+         QDir(directory).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden))
+        found.insert(entry, bytesOf(directory + QLatin1Char('/') + entry));
     return found;
 }
 
@@ -68,6 +66,12 @@ TEST(StoreFile, whatIsNoStoreOfThisModelIsRefusedUntouched)
         {"no mark, with a log",
          [](const QString& path) {
              makeDatabase(path, {"PRAGMA journal_mode = WAL", "CREATE TABLE Films (title)"}, true);
+         },
+         "not a store of this program"},
+        {"no mark, in a log over nothing but the first page",
+         [](const QString& path) {
+             makeDatabase(path, {"PRAGMA journal_mode = WAL"});
+             makeDatabase(path, {"CREATE TABLE Films (title)", "PRAGMA application_id = 5"}, true);
          },
          "not a store of this program"},
         {"newer", [](const QString& path) { makeStore(path, {"PRAGMA user_version = 2"}, false); },

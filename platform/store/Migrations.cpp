@@ -47,6 +47,10 @@ Status takeStepInTransaction(Database& database, const NSManagedObjectModel& mod
 
 Status migrate(Database& database, const NSManagedObjectModel& model)
 {
+    // Dropping a table that is to be replaced would take along the rows that refer to it. The setting has no
+    // effect within a transaction.
+    if (const auto set = database.run("PRAGMA foreign_keys = OFF"); !set)
+        return set;
     for (;;) {
         const auto version = database.number("PRAGMA user_version");
         if (!version)

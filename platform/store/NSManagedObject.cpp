@@ -21,11 +21,15 @@ bool fitsType(const AttributeValue& value, AttributeType type)
     }
 }
 
-// A store keeps moments, without the zone they were told in.
-AttributeValue storedMoment(const AttributeValue& value)
+// A store keeps moments without their time zone. A number always has a value: an absent one would equal no
+// number in a query, although it reads 0.
+AttributeValue storedValue(AttributeValue value, AttributeType type)
 {
-    const auto* moment = std::get_if<QDateTime>(&value);
-    return moment && moment->isValid() ? moment->toUTC() : AttributeValue();
+    if (type == AttributeType::Int16 && isAbsent(value))
+        return qint16{0};
+    if (const auto* moment = std::get_if<QDateTime>(&value))
+        return moment->isValid() ? moment->toUTC() : AttributeValue();
+    return value;
 }
 
 } // namespace
@@ -65,7 +69,7 @@ void NSManagedObject::setValueForKey(const AttributeValue& value, const QString&
     if (!fitsType(value, type))
         fatalError(QStringLiteral("Unacceptable type of value for the attribute %1 of the entity %2")
                        .arg(key, description.name));
-    set(index, type == AttributeType::Date ? storedMoment(value) : value);
+    set(index, value);
 }
 
 std::optional<QString> NSManagedObject::text(int index) const
@@ -107,7 +111,7 @@ void NSManagedObject::setInt16(int index, std::optional<qint16> value)
 
 void NSManagedObject::setDate(int index, std::optional<QDateTime> value)
 {
-    set(index, storedMoment(attributeValueOf(std::move(value))));
+    set(index, attributeValueOf(std::move(value)));
 }
 
 void NSManagedObject::setBinary(int index, std::optional<QByteArray> value)
@@ -120,6 +124,7 @@ void NSManagedObject::set(int index, AttributeValue value)
     if (!context)
         return;
     const auto type = description.attributes[static_cast<std::size_t>(index)].type;
+    value = storedValue(std::move(value), type);
     if (type != AttributeType::Binary && values.value(index, type) == value)
         return;
     values.set(index, std::move(value), description);

@@ -99,12 +99,13 @@ Status makeReady(Database& database, const NSManagedObjectModel& model)
 {
     if (const auto inspected = inspectInUse(database, model); !inspected)
         return inspected;
-    for (const auto* setting : {"PRAGMA trusted_schema = OFF", "PRAGMA foreign_keys = ON",
-                                "PRAGMA journal_mode = WAL", "PRAGMA synchronous = FULL"}) {
+    for (const auto* setting :
+         {"PRAGMA trusted_schema = OFF", "PRAGMA journal_mode = WAL", "PRAGMA synchronous = FULL"}) {
         if (const auto set = database.run(setting); !set)
             return set;
     }
-    return migrate(database, model);
+    const auto migrated = migrate(database, model);
+    return migrated ? database.run("PRAGMA foreign_keys = ON") : migrated;
 }
 
 } // namespace

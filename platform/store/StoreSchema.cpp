@@ -11,8 +11,8 @@ QByteArray columnDefinition(const NSAttributeDescription& attribute)
     case AttributeType::Date:
         return name + " INTEGER CHECK (typeof(" + name + ") IN ('integer', 'null'))";
     default:
-        return name + " INTEGER DEFAULT 0 CHECK (" + name + " IS NULL OR (typeof(" + name +
-               ") = 'integer' AND " + name + " BETWEEN -32768 AND 32767))";
+        return name + " INTEGER NOT NULL DEFAULT 0 CHECK (typeof(" + name + ") = 'integer' AND " + name +
+               " BETWEEN -32768 AND 32767)";
     }
 }
 

@@ -174,7 +174,6 @@ TEST_F(ImportTest, AnUpdateSetsWhatTheLineSaysAndKeepsTheRest)
     EXPECT_EQ(movie->wYear(), 2020);
     EXPECT_EQ(movie->runTime(), 0);
     EXPECT_EQ(movie->yearReleased(), 0);
-    movie->setYearReleased(0);
     importLines({"^^^^F^^^^^abc^^QUJD"});
     EXPECT_EQ(movie->frontCover(), QByteArray("ABC"));
     movie->setYearReleased(2000);

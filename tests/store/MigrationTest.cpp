@@ -68,9 +68,9 @@ TEST(Schema, keepsStrangersFromStoringWhatTheModelCannotHold)
     const TestStore store;
     const auto database = Database::open(TestStore::path(), Database::Access::ReadWrite);
     for (const auto* values : {"title) VALUES (x'00')", "year) VALUES (32768)", "year) VALUES ('x')",
-                               "year) VALUES (1.5)", "seen) VALUES ('2001-01-01')"})
+                               "year) VALUES (1.5)", "year) VALUES (NULL)", "seen) VALUES ('2001-01-01')"})
         EXPECT_FALSE(database.value()->run(QByteArray("INSERT INTO Films (") + values)) << values;
-    EXPECT_TRUE(database.value()->run("INSERT INTO Films (title, year, seen) VALUES ('x', NULL, -5)"));
+    EXPECT_TRUE(database.value()->run("INSERT INTO Films (title, year, seen) VALUES ('x', 5, -5)"));
 }
 
 } // namespace

@@ -1,21 +1,21 @@
 #include "exchange/TemporaryFile.h"
 
 #include "platform/foundation/FileWriting.h"
+#include "platform/services/Device.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 QString temporaryFilePath(const QString& name)
 {
-    return QDir::tempPath() + QLatin1Char('/') + name;
+    return Device::current().temporaryDirectory.path() + QLatin1Char('/') + name;
 }
 
 Status writeTemporaryFile(const QString& path, const QString& text)
 {
-    if (QFileInfo(path).isSymLink() && !QFile::remove(path))
-        return NSError{QStringLiteral("Another's link is in the way"), {{QStringLiteral("path"), path}}};
-    return writeAtomically(text.toUtf8(), path, FileReaders::OwnerOnly);
+    auto written = writeAtomically(text.toUtf8(), path, FileReaders::OwnerOnly);
+    if (!written)
+        QFile::remove(path);
+    return written;
 }
 
 std::optional<QByteArray> bytesOfTemporaryFile(const QString& path)

@@ -6,12 +6,11 @@
 #include <QString>
 #include <optional>
 
-// Files on their way out, in the platform's directory for temporary ones, which other users may write to as
-// well.
+// Files on their way out, in the device's directory for temporary ones.
 
 [[nodiscard]] QString temporaryFilePath(const QString& name);
 
-// Writes `text` in UTF-8, whole or not at all, for the user's eyes only. A link at `path` isn't followed.
+// Writes `text` in UTF-8. When it fails, no file is left at `path`, so that no earlier one is taken for it.
 [[nodiscard]] Status writeTemporaryFile(const QString& path, const QString& text);
 
 // Absent where it can't be read.

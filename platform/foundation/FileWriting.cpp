@@ -10,24 +10,40 @@ bool isFor(FileReaders readers, QSaveFile& file)
            file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
-// A disk that fills up takes a part first; only the next attempt says why.
-bool writeAll(QSaveFile& file, QByteArrayView content)
+NSError errorOf(const QFileDevice& file)
 {
-    while (!content.isEmpty()) {
-        const qint64 taken = file.write(content.data(), content.size());
-        if (taken <= 0)
-            return false;
-        content = content.sliced(taken);
-    }
-    return true;
+    return {file.errorString(), {{QStringLiteral("path"), file.fileName()}}};
 }
 
 } // namespace
 
 Status writeAtomically(const QByteArray& content, const QString& path, FileReaders readers)
 {
+    return replaceAtomically(path, readers, [&](QFileDevice& file) { return writeAll(file, content); });
+}
+
+// Unbuffered, because QSaveFile does not notice when the buffer that commit() writes does not fit on the
+// disk: it then puts the file cut short in the place of the old one.
+Status replaceAtomically(const QString& path, FileReaders readers,
+                         const std::function<Status(QFileDevice&)>& write)
+{
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && isFor(readers, file) && writeAll(file, content) && file.commit())
-        return success();
-    return NSError{file.errorString(), {{QStringLiteral("path"), path}}};
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !isFor(readers, file))
+        return errorOf(file);
+    const Status written = write(file);
+    if (written && !file.commit())
+        return errorOf(file);
+    return written;
+}
+
+// A disk that fills up takes a part first; only the next attempt says why.
+Status writeAll(QFileDevice& file, QByteArrayView content)
+{
+    while (!content.isEmpty()) {
+        const qint64 taken = file.write(content.data(), content.size());
+        if (taken <= 0)
+            return errorOf(file);
+        content = content.sliced(taken);
+    }
+    return success();
 }

@@ -28,9 +28,9 @@ Result<QStringList> writeAttachments(const QString& folder, const std::vector<Ma
     QStringList paths;
     for (const MailAttachment& attachment : attachments) {
         // Two of them may have one name.
-        const QString place = QStringLiteral("%1/%2").arg(folder).arg(paths.size() + 1);
-        paths.append(place + QLatin1Char('/') + attachment.fileName);
-        if (folder.isEmpty() || !QDir().mkpath(place) || !writeAttachment(attachment, paths.last()))
+        const QString place = QString::number(paths.size() + 1);
+        paths.append(QStringLiteral("%1/%2/%3").arg(folder, place, attachment.fileName));
+        if (!QDir(folder).mkdir(place) || !writeAttachment(attachment, paths.last()))
             return NSError{QStringLiteral("%1 could not be attached.").arg(attachment.fileName), {}};
     }
     return paths;

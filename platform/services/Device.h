@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/foundation/TemporaryFolder.h"
 #include "platform/services/AddressOpener.h"
 #include "platform/services/Camera.h"
 #include "platform/services/Documents.h"
@@ -26,6 +27,9 @@ struct Device
 
     // Major and minor version of the platform; below 13, 13.4 and 14 screens take their fallbacks.
     double systemVersion = 14;
+
+    // The platform's directory for temporary files. It is the program's own and goes with the device.
+    TemporaryFolder temporaryDirectory;
 
     std::unique_ptr<Mail> mail;
     std::unique_ptr<TextMessages> textMessages;

@@ -1,7 +1,8 @@
 #include "platform/services/FileBytes.h"
 
+#include "platform/foundation/FileWriting.h"
+
 #include <QFile>
-#include <QSaveFile>
 
 namespace {
 
@@ -34,19 +35,14 @@ Status copyBytes(const QString& path, QFileDevice& target)
         const QByteArray piece = file.read(pieceOfFile);
         if (file.error() != QFileDevice::NoError)
             return errorOf(file);
-        if (target.write(piece) != piece.size())
-            return errorOf(target);
+        if (const Status written = writeAll(target, piece); !written)
+            return written;
     }
     return success();
 }
 
 Status copyFile(const QString& path, const QString& copy)
 {
-    QSaveFile target(copy);
-    if (!target.open(QIODevice::WriteOnly))
-        return errorOf(target);
-    const Status copied = copyBytes(path, target);
-    if (copied && !target.commit())
-        return errorOf(target);
-    return copied;
+    return replaceAtomically(copy, FileReaders::AsUsual,
+                             [&](QFileDevice& target) { return copyBytes(path, target); });
 }

@@ -8,7 +8,6 @@
 
 #include <QDBusMetaType>
 #include <QDBusUnixFileDescriptor>
-#include <QDir>
 #include <QFile>
 
 namespace {
@@ -58,8 +57,7 @@ bool LinuxMail::canSendMail() const
 
 void LinuxMail::compose(const MailMessage& message, Told told)
 {
-    folders.push_back(
-        std::make_unique<QTemporaryDir>(QDir::tempPath() + QStringLiteral("/marrowvale-XXXXXX")));
+    folders.push_back(std::make_unique<TemporaryFolder>());
     const auto prepare = [message, folder = folders.back()->path()]() -> Result<Prepared> {
         const MailMessage tamed = tamedMail(message);
         const Result<QStringList> files = writeAttachments(folder, tamed.attachments);

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "platform/foundation/TemporaryFolder.h"
 #include "platform/services/Mail.h"
 #include "platform/services/PortalRequest.h"
-
-#include <QTemporaryDir>
 
 // Mail through the desktop portal, or, where there is none or it fails, through `xdg-email`; both take the
 // body as plain text only. Attachments wait for the mail program in private folders, until the program ends.
@@ -29,7 +28,7 @@ private:
 
     QDBusConnection bus;
     PortalRequest::Limits limits;
-    std::vector<std::unique_ptr<QTemporaryDir>> folders;
+    std::vector<std::unique_ptr<TemporaryFolder>> folders;
     // Owns what is under way: goes before all else.
     QObject works;
 };

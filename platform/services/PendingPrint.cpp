@@ -1,10 +1,7 @@
 #include "platform/services/PendingPrint.h"
 
-#include <QDir>
-
 PendingPrint::PendingPrint(PrintJob job, Printer::Told told)
     : job(std::move(job))
-    , directory(QDir::tempPath() + QStringLiteral("/marrowvale-XXXXXX"))
     , told(std::move(told))
 {
 }

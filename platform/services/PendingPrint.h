@@ -1,8 +1,7 @@
 #pragma once
 
+#include "platform/foundation/TemporaryFolder.h"
 #include "platform/services/Printer.h"
-
-#include <QTemporaryDir>
 
 // A print job on its way: whoever holds it last without telling how it went has cancelled it.
 class PendingPrint
@@ -15,7 +14,7 @@ public:
 
     const PrintJob job;
     // Of the job's own, private to the user; goes with it.
-    [[nodiscard]] QString folder() const { return directory.path(); }
+    [[nodiscard]] QString folder() { return directory.path(); }
 
     // The empty `problem`: it was sent.
     void end(const QString& problem);
@@ -23,6 +22,6 @@ public:
 private:
     void tell(bool completed, const std::optional<NSError>& error);
 
-    QTemporaryDir directory;
+    TemporaryFolder directory;
     Printer::Told told;
 };

@@ -1,9 +1,7 @@
 #include "model/MarrowvaleModel.h"
 #include "platform/foundation/Calendar.h"
 #include "tests/editing/AddMovieTest.h"
-
-#include <csignal>
-#include <sys/resource.h>
+#include "tests/support/FullDisk.h"
 
 namespace {
 
@@ -130,30 +128,13 @@ TEST_F(SavingTest, OnlyTheMenuAndTheListAreReturnedTo)
     }
 }
 
-// As on a full disk, while it lives.
-class NoRoom
-{
-public:
-    NoRoom()
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit small{1024, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~NoRoom() { setrlimit(RLIMIT_FSIZE, &before); }
-
-private:
-    rlimit before{};
-};
-
 TEST_F(SavingTest, AFailedSaveIsToldOnTheConsoleAndTheScreenLeaves)
 {
     AddMovieViewController& screen = openedAndFilled();
     shared().ReturnScreen = "MainMenu";
     testing::internal::CaptureStdout();
     {
-        const NoRoom noRoom;
+        const FullDisk disk(1024);
         screen.SaveButtonClicked();
     }
     EXPECT_NE(testing::internal::GetCapturedStdout(), "");

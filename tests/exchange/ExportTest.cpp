@@ -3,10 +3,10 @@
 #include "platform/toolkit/UIAlertController.h"
 #include "platform/toolkit/UINavigationController.h"
 #include "tests/support/Catalogue.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/PlainStoryboard.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QEvent>
 #include <QFile>
 
@@ -17,12 +17,7 @@ using namespace std::chrono_literals;
 class ExportTest : public CatalogueTest
 {
 protected:
-    void SetUp() override
-    {
-        QFile::link(QDir::tempPath(), QDir::home().filePath("link"));
-        qputenv("TMPDIR", QDir::home().filePath("link").toUtf8());
-        navigation.push(std::make_unique<ExportViewController>());
-    }
+    void SetUp() override { navigation.push(std::make_unique<ExportViewController>()); }
 
     ExportViewController& screen()
     {
@@ -35,9 +30,9 @@ protected:
         queue.advance(999ms);
     }
 
-    static QString path() { return QDir::tempPath() + "/Marrowvale.csv"; }
+    QString path() { return device.temporaryDirectory.path() + "/Marrowvale.csv"; }
 
-    static QByteArray written()
+    QByteArray written()
     {
         QFile file(path());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
@@ -141,16 +136,27 @@ TEST_F(ExportTest, WithoutMailTheFileIsThereAllTheSame)
     EXPECT_EQ(alert()->title() + "/" + alert()->message(), "Sending Email/Email not Setup or Unavailable");
 }
 
-TEST_F(ExportTest, AnothersLinkIsNotFollowed)
+TEST_F(ExportTest, AnEarlierFileIsNeverTakenForOneThatCouldNotBeWritten)
 {
-    const QString victim = QDir::home().filePath("victim");
-    QFile file(victim);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(QFile::link(victim, path()));
     create();
+    ASSERT_TRUE(screen().ExportTextView->edit("edited, mailed"));
+    screen().WriteTextFile();
+    ASSERT_EQ(written(), "edited, mailed");
+    screen().dismiss();
+    device.mailTwin->composed.clear();
+    const FullDisk disk(4);
     screen().SaveToFiles();
-    EXPECT_EQ(written(), "[MARROWVALE]\n");
-    EXPECT_EQ(QFileInfo(victim).size(), 0);
+    auto* sheet = qobject_cast<UIActivityViewController*>(screen().presentedViewController());
+    ASSERT_NE(sheet, nullptr) << "a failure is not reported, and the sheet comes all the same";
+    sheet->choose(0);
+    EXPECT_TRUE(device.documentsTwin->saved.empty());
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->title(), "Save to Files");
+    screen().dismiss();
+    screen().WriteTextFile();
+    EXPECT_TRUE(device.mailTwin->composed.empty());
+    EXPECT_EQ(screen().presentedViewController(), nullptr) << "nothing to attach: nothing is shown";
+    EXPECT_EQ(screen().ExportTextView->text(), "edited, mailed");
 }
 
 TEST_F(ExportTest, LeavingTheScreenGivesTheRunUp)

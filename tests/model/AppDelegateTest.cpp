@@ -1,10 +1,10 @@
 #include "model/AppDelegate.h"
 #include "model/Movies.h"
+#include "tests/support/FullDisk.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <csignal>
-#include <sys/resource.h>
 
 namespace {
 
@@ -81,9 +81,7 @@ TEST(AppDelegateDeathTest, AFailedSaveEndsTheProgram)
         AppDelegate delegate;
         addMovie(delegate);
         // Enough for the message, and less than the store already has.
-        const rlimit fewBytes{4096, 4096};
-        std::signal(SIGXFSZ, SIG_IGN);
-        setrlimit(RLIMIT_FSIZE, &fewBytes);
+        const FullDisk disk(4096);
         delegate.saveContext();
     };
     EXPECT_EXIT(saveOnFullDisk(), testing::KilledBySignal(SIGABRT),

@@ -1,8 +1,8 @@
 #include "platform/services/UIDocumentPickerViewController.h"
 
 #include "platform/services/Device.h"
+#include "platform/toolkit/UIImage.h"
 
-#include <QImageReader>
 #include <QPointer>
 
 namespace {
@@ -12,11 +12,7 @@ const QString pngType = QStringLiteral("public.png");
 
 QString readableImages()
 {
-    QStringList patterns;
-    for (const char* format : {"jpg", "jpeg", "png", "webp", "gif", "bmp"})
-        if (QImageReader::supportedImageFormats().contains(format))
-            patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
-    return patterns.join(u' ');
+    return QStringLiteral("*.") + imageFileSuffixes().join(QStringLiteral(" *."));
 }
 
 QStringList nameFiltersFor(const QStringList& types)

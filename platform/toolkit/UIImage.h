@@ -3,14 +3,20 @@
 #include <QByteArray>
 #include <QImage>
 #include <QSize>
+#include <QStringList>
 
-// The picture in `bytes`, whatever its format; a null image where there is none that decodes within 128 MiB
-// of pixels.
+// Returns the picture in `bytes`: JPEG, PNG, GIF and BMP, and WebP and TIFF where Qt has their plugins. Null
+// where there is none, where it has over 256 million pixels, or where decoding it takes over 256 MiB. A
+// picture of over 33.5 million pixels is decoded smaller, in the same shape. Opens no file. May be called on
+// any thread.
 [[nodiscard]] QImage imageWithData(const QByteArray& bytes);
 
-// How large `imageWithData` shows the picture in `bytes`, without decoding it; empty where there is none.
-// Large pictures are decoded smaller, in the same shape.
+// Returns the size of the picture in `bytes` without decoding it, as `imageWithData` turns it; empty where
+// there is none.
 [[nodiscard]] QSize imageSizeOfData(const QByteArray& bytes);
+
+// The endings of the names of files that hold such pictures, without the dot.
+[[nodiscard]] QStringList imageFileSuffixes();
 
 // `quality` from 0 to 1; empty where `image` is null or can't be encoded. Transparent parts come out white.
 [[nodiscard]] QByteArray UIImageJPEGRepresentation(const QImage& image, double quality);

@@ -3,18 +3,7 @@
 #include "exchange/TextFile.h"
 #include "tests/fuzz/FuzzTarget.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 namespace {
-
-void require(bool holds, const char* what)
-{
-    if (holds)
-        return;
-    std::fprintf(stderr, "Does not hold: %s\n", what);
-    std::abort();
-}
 
 ExchangeValues valuesOf(const ExchangeReadings& readings)
 {

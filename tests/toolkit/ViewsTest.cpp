@@ -1,10 +1,8 @@
 #include "platform/toolkit/UIDatePicker.h"
-#include "platform/toolkit/UIImage.h"
 #include "platform/toolkit/UITableView.h"
 #include "platform/toolkit/UITextField.h"
 
 #include <QAbstractItemModelTester>
-#include <QBuffer>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
@@ -154,47 +152,6 @@ TEST(DatePickerTest, PickingKeepsTheTimeAndClampsToTheMonth)
     picker.pick(0, 2, 1);
     picker.pick(2024, 13, 1);
     EXPECT_EQ(changes.size(), 1) << "a day already shown and days that don't exist are no change";
-}
-
-QByteArray encoded(const QImage& image, const char* format)
-{
-    QBuffer buffer;
-    image.save(&buffer, format);
-    return buffer.data();
-}
-
-TEST(ImageTest, OnlyPicturesWithinBoundsDecode)
-{
-    QImage picture(300, 100, QImage::Format_ARGB32);
-    picture.fill(Qt::transparent);
-    const QByteArray png = encoded(picture, "PNG");
-    EXPECT_EQ(imageWithData(png).size(), QSize(300, 100));
-    EXPECT_TRUE(imageWithData(png.left(png.size() / 2)).isNull());
-    EXPECT_TRUE(imageWithData("no picture").isNull());
-    EXPECT_TRUE(imageWithData({}).isNull());
-
-    // A header alone may claim any size: 30,000 by 30,000 pixels would take 3.6 GB.
-    QByteArray huge = encoded(QImage(3, 3, QImage::Format_RGB32), "BMP");
-    const auto claim = [&huge](qsizetype offset) {
-        huge.replace(offset, 4, QByteArray("\x30\x75\x00\x00", 4));
-    };
-    claim(18);
-    claim(22);
-    EXPECT_TRUE(imageWithData(huge).isNull());
-
-    const QByteArray photo = encoded(QImage(6400, 6000, QImage::Format_Grayscale8), "JPEG");
-    EXPECT_EQ(imageWithData(photo).size(), QSize(3200, 3000)) << "large photos are decoded smaller";
-}
-
-TEST(ImageTest, ACoverFillsTheSquareAndLosesTransparency)
-{
-    QImage wide(300, 100, QImage::Format_ARGB32);
-    wide.fill(Qt::transparent);
-    const QImage square = imageDrawnInto({150, 150}, wide);
-    EXPECT_EQ(square.size(), QSize(150, 150));
-    const QImage decoded = imageWithData(UIImageJPEGRepresentation(square, 0.9));
-    EXPECT_EQ(decoded.pixelColor(75, 75), QColor(Qt::white));
-    EXPECT_TRUE(UIImageJPEGRepresentation(QImage(), 0.9).isEmpty());
 }
 
 } // namespace

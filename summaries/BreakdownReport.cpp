@@ -6,6 +6,8 @@
 #include "summaries/BreakdownTableViewController.h"
 #include "summaries/MovieReport.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QPointer>
 
 // The part of the screen that makes its report.
@@ -14,6 +16,14 @@ namespace {
 
 // Points; A4.
 constexpr QSizeF paperSize(595.2, 841.8);
+
+// The user may never have had a documents folder, or may have removed it. Where it can't be made, writing
+// says so.
+Status writeToFolder(const QByteArray& pdf, const QString& path)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    return writeAtomically(pdf, path);
+}
 
 QString outcomeOf(const Status& written, const QString& path)
 {
@@ -31,19 +41,20 @@ void BreakdownTableViewController::shareButtonClicked()
     if (movies.empty())
         fatalError(QStringLiteral("A report of no movies"));
     MovieString = {};
-    appendReportTitle(MovieString, kind.report.titleText + kind.report.titleValue(*movies.front()));
+    const QString title = kind.report.titleText + kind.report.titleValue(*movies.front());
+    appendReportTitle(MovieString, title);
     for (const auto& movie : movies)
         appendMovieBlock(MovieString, *movie, kind.report, viewWidth);
-    writeReport();
+    writeReport(title);
 }
 
 // One after the other: several screens share a file, which is to hold the report that was asked for last.
-void BreakdownTableViewController::writeReport()
+void BreakdownTableViewController::writeReport(const QString& title)
 {
     activityIndicator->startAnimating();
     DispatchQueue::serial().async(
-        [screen = QPointer(this), text = MovieString, path = outputFileURL.toLocalFile()] {
-            const QString outcome = outcomeOf(writeAtomically(pdfOf(text, paperSize), path), path);
+        [screen = QPointer(this), text = MovieString, title, path = outputFileURL.toLocalFile()] {
+            const QString outcome = outcomeOf(writeToFolder(pdfOf(text, paperSize, title), path), path);
             DispatchQueue::main().async([screen, outcome] {
                 if (screen)
                     screen->presentReport(outcome);

@@ -81,7 +81,7 @@ protected:
 
 private:
     [[nodiscard]] bool isSearching() const;
-    void writeReport();
+    void writeReport(const QString& title);
     void presentReport(const QString& outcome);
 
     const BreakdownKind& kind;

@@ -78,13 +78,14 @@ PdfPageItems itemsOfPage(const QTextDocument& document, int number)
 
 } // namespace
 
-QByteArray pdfOf(const NSAttributedString& text, const QSizeF& pageSize)
+QByteArray pdfOf(const NSAttributedString& text, const QSizeF& pageSize, const QString& title)
 {
     QByteArray pdf;
     QBuffer file(&pdf);
     file.open(QIODevice::WriteOnly);
     QPdfWriter writer(&file);
     writer.setCreator(QStringLiteral("Marrowvale"));
+    writer.setTitle(title);
     writer.setResolution(dotsPerInch);
     writer.setPageSize(QPageSize(pageSize, QPageSize::Point));
     writer.setPageMargins(QMarginsF());

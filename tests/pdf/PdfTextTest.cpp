@@ -45,6 +45,13 @@ QString readBack(const QByteArray& pdf)
     return comparable(QString::fromUtf8(run("pdftotext", {"-layout", writtenFile("text.pdf", pdf), "-"})));
 }
 
+QString titleOf(const QByteArray& pdf)
+{
+    const QString told = QString::fromUtf8(run("pdfinfo", {writtenFile("text.pdf", pdf)}));
+    static const QRegularExpression title("^Title: +(.*)$", QRegularExpression::MultilineOption);
+    return comparable(title.match(told).captured(1));
+}
+
 struct ScriptSample
 {
     const char* script;
@@ -64,9 +71,10 @@ TEST_P(PdfTextTest, ComesOutAsItWentIn)
 {
     const QString sample = QString::fromUtf8(GetParam().text);
     const QString text = sample + QString("\nplain").repeated(12) + "\n" + sample;
-    const QByteArray pdf = pdfOf(NSAttributedString(text), page);
+    const QByteArray pdf = pdfOf(NSAttributedString(text), page, sample);
     EXPECT_GT(pdf.count("/Type /Page\n"), 1);
     EXPECT_EQ(readBack(pdf).toStdString(), comparable(text).toStdString());
+    EXPECT_EQ(titleOf(pdf).toStdString(), comparable(sample).toStdString());
 }
 
 const ScriptSample scriptSamples[] = {
@@ -139,7 +147,7 @@ TEST(PdfTextOfOtherFilesTest, StaysAsItIs)
 {
     for (const QByteArray& other :
          {QByteArray(), QByteArray("%PDF-1.4\nstartxref\n99\n%%EOF\n"), QByteArray("startxref\n-5\n"),
-          QByteArray("xref\n0 9\nstartxref\n0\n"), pdfOf(NSAttributedString("film"), page)}) {
+          QByteArray("xref\n0 9\nstartxref\n0\n"), pdfOf(NSAttributedString("film"), page, {})}) {
         QByteArray pdf = other;
         makeTextReadable(pdf, {}, {});
         EXPECT_EQ(pdf, other);

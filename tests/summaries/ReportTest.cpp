@@ -14,11 +14,7 @@ namespace {
 class ReportTest : public BreakdownTest
 {
 protected:
-    void SetUp() override
-    {
-        QDir::home().mkpath("Documents");
-        chooseGroupsOfAlien();
-    }
+    void SetUp() override { chooseGroupsOfAlien(); }
 
     // Taps the button and answers the file that the sheet offers.
     QUrl share(BreakdownTableViewController& screen)
@@ -40,6 +36,16 @@ protected:
     {
         QFile file(url.toLocalFile());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    // As viewers show it.
+    static QString titleOf(const QUrl& url)
+    {
+        QProcess reader;
+        reader.start("pdfinfo", {url.toLocalFile()});
+        EXPECT_TRUE(reader.waitForFinished()) << qPrintable(reader.errorString());
+        const auto told = QString::fromUtf8(reader.readAllStandardOutput());
+        return told.section("Title:", 1).section('\n', 0, 0).trimmed();
     }
 
     QString told;
@@ -91,6 +97,7 @@ TEST_F(ReportTest, EveryKindHasItsTextAndFile)
         EXPECT_TRUE(pdf.contains("/MediaBox [0 0 595.200000 841.800000]"));
         EXPECT_FALSE(pdf.contains("842.000000]"));
         EXPECT_TRUE(pdf.contains("/FontFile2")) << "fonts are embedded";
+        EXPECT_EQ(titleOf(file).toStdString(), expected.text.section('\n', 0, 0).toStdString());
     }
 }
 
@@ -149,7 +156,8 @@ TEST_F(ReportTest, ALongListFlowsOntoFurtherPages)
 TEST_F(ReportTest, AFileThatCanNotBeWrittenIsOnlyToldToTheConsole)
 {
     alien();
-    QDir::home().rmdir("Documents");
+    QFile inTheWay(QDir::home().filePath("Documents"));
+    ASSERT_TRUE(inTheWay.open(QFile::WriteOnly));
     EXPECT_EQ(share(opened<GenreBreakdownTableViewController>()).fileName(), "GenreMovieList.pdf");
     EXPECT_TRUE(told.startsWith("Could not create PDF file: ")) << qPrintable(told);
 }

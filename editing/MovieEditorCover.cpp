@@ -1,10 +1,10 @@
 // Where a movie editor's cover comes from.
 
-#include "editing/CoverImage.h"
 #include "editing/MovieEditorViewController.h"
 #include "platform/foundation/Console.h"
 #include "platform/services/Device.h"
 #include "platform/services/SystemVersions.h"
+#include "platform/toolkit/UIImage.h"
 
 namespace {
 
@@ -49,9 +49,7 @@ void MovieEditorViewController::imagePickerControllerDidCancel(UIImagePickerCont
 
 void MovieEditorViewController::PasteImage()
 {
-    const Pasteboard& pasteboard = *Device::current().pasteboard;
-    // One that doesn't decode is none: it must not take away the cover shown.
-    const QImage image = pasteboard.hasImages() ? pasteboard.image() : QImage();
+    const QImage image = Device::current().pasteboard->image();
     if (image.isNull())
         showAlert(QStringLiteral("Clipboard"), QStringLiteral("There is no image in the Clipboard"));
     else
@@ -69,7 +67,7 @@ void MovieEditorViewController::didPickDocumentsAtURLs(UIDocumentPickerViewContr
 {
     console(QStringLiteral("Chosen"));
     document = urls.first();
-    const QImage image = imageInFile(document);
+    const QImage image = imageInFile(document.toLocalFile());
     if (image.isNull())
         return;
     coverView->setContentMode(UIImageView::ContentMode::ScaleAspectFit);

@@ -39,13 +39,7 @@ Result<NamedContent> contentToSave(const ActivityItems& items)
 
 void copyToPasteboard(const ActivityItems& items, UIViewController& /*presenter*/)
 {
-    Pasteboard& pasteboard = *Device::current().pasteboard;
-    const QList<QImage> pictures = picturesOf(items);
-    const QString lines = linesOf(items);
-    if (!pictures.isEmpty() && lines.isEmpty())
-        pasteboard.setImage(pictures.first());
-    else
-        pasteboard.setString(lines);
+    Device::current().pasteboard->setContent(linesOf(items), picturesOf(items).value(0));
 }
 
 void saveToFiles(const ActivityItems& items, UIViewController& presenter)

@@ -9,9 +9,9 @@ class Pasteboard
 public:
     virtual ~Pasteboard() = default;
 
-    [[nodiscard]] virtual bool hasImages() const = 0;
-    // A null image where there is none or it doesn't decode.
+    // Returns the picture on it, or in the file that was copied to it; null where there is none that decodes.
     [[nodiscard]] virtual QImage image() const = 0;
-    virtual void setString(const QString& text) = 0;
-    virtual void setImage(const QImage& image) = 0;
+    // Replaces what is on it by `text` and `image` together, so that each program takes what it can use. A
+    // null image is left out, and so is an empty text beside an image.
+    virtual void setContent(const QString& text, const QImage& image) = 0;
 };

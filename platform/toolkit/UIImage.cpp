@@ -1,6 +1,7 @@
 #include "platform/toolkit/UIImage.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 
@@ -14,6 +15,7 @@ constexpr int decodingLimitMiB = 256;
 constexpr qint64 mostPixelsKept = 128LL * bytesPerMiB / bytesPerPixel;
 // A photo of a telephone may have 200 million. JPEG is decoded smaller without ever being held at full size.
 constexpr qint64 mostPixels = 256'000'000;
+constexpr qint64 largestFile = 64LL * bytesPerMiB;
 constexpr int qualityScale = 100;
 
 struct RasterFormat
@@ -136,6 +138,16 @@ QImage imageWithData(const QByteArray& bytes)
     // The size that a GIF announces need not be that of its frame.
     const QSize size = decodedSize(picture.size());
     return size == picture.size() ? picture : picture.scaled(size);
+}
+
+QImage imageInFile(const QString& path)
+{
+    QFile file(path);
+    // Reading a pipe or a device might never end.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray content = file.read(largestFile + 1);
+    return content.size() > largestFile ? QImage() : imageWithData(content);
 }
 
 QByteArray UIImageJPEGRepresentation(const QImage& image, double quality)

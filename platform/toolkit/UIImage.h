@@ -15,6 +15,9 @@
 // there is none.
 [[nodiscard]] QSize imageSizeOfData(const QByteArray& bytes);
 
+// Returns the picture in a file of at most 64 MiB, whatever its name says; null where there is none.
+[[nodiscard]] QImage imageInFile(const QString& path);
+
 // The endings of the names of files that hold such pictures, without the dot.
 [[nodiscard]] QStringList imageFileSuffixes();
 

@@ -10,14 +10,6 @@
 namespace {
 
 // Says that it holds an image, which then does not decode.
-struct BrokenPasteboard : Pasteboard
-{
-    [[nodiscard]] bool hasImages() const override { return true; }
-    [[nodiscard]] QImage image() const override { return {}; }
-    void setString(const QString& /*text*/) override {}
-    void setImage(const QImage& /*image*/) override {}
-};
-
 class CoverTest : public AddMovieTest
 {
 protected:
@@ -90,11 +82,11 @@ TEST_F(CoverTest, TheLastImagePastedIsTheOneStoredUnlessRemoved)
     screen.PasteImage();
     EXPECT_EQ(closedAlert(screen), "Clipboard: There is no image in the Clipboard");
     for (const Qt::GlobalColor colour : {Qt::red, Qt::blue}) {
-        device.pasteboard->setImage(plain(colour));
+        device.pasteboard->setContent({}, plain(colour));
         screen.PasteImage();
         EXPECT_EQ(screen.FrontImageView->image().pixelColor(0, 0), QColor(colour));
     }
-    device.pasteboard = std::make_unique<BrokenPasteboard>();
+    device.pasteboard->setContent("words", {});
     screen.PasteImage();
     EXPECT_EQ(closedAlert(screen), "Clipboard: There is no image in the Clipboard");
     EXPECT_FALSE(screen.FrontImageView->image().isNull());

@@ -1,4 +1,5 @@
 #include "platform/services/Activity.h"
+#include "platform/services/ActivityItems.h"
 #include "platform/toolkit/UIAlertController.h"
 #include "tests/support/RecordingDevice.h"
 
@@ -72,6 +73,7 @@ TEST_F(ActivityTest, WordsAreCopiedAndSavedALineEach)
         device.pasteboardTwin->text = "what was there before";
         shown(each.items).choose(Copy);
         EXPECT_EQ(device.pasteboardTwin->text, each.text);
+        EXPECT_EQ(device.pasteboardTwin->picture.isNull(), picturesOf(each.items).isEmpty());
 
         screen.dismiss();
         shown(each.items).choose(Save);

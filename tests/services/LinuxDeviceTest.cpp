@@ -1,11 +1,14 @@
 #include "platform/services/Device.h"
+#include "platform/services/LinuxPasteboard.h"
 #include "tests/services/FakePrograms.h"
 #include "tests/services/PrivateBus.h"
 #include "tests/support/Home.h"
 
+#include <QBuffer>
 #include <QClipboard>
 #include <QDir>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QPalette>
 #include <gmock/gmock.h>
 
@@ -75,21 +78,74 @@ TEST(LinuxDeviceDeathTest, WithoutASessionBusThePaletteDecides)
     EXPECT_EXIT(std::exit(startsWithBus("unix:path=/nowhere/bus")), testing::ExitedWithCode(0), "");
 }
 
+QByteArray encoded(const QImage& image, const char* format)
+{
+    QBuffer buffer;
+    EXPECT_TRUE(image.save(&buffer, format)) << format;
+    return buffer.data();
+}
+
+QImage plain(QSize size, QImage::Format format = QImage::Format_RGB32)
+{
+    QImage image(size, format);
+    image.fill(Qt::red);
+    return image;
+}
+
 TEST(LinuxDeviceTest, ThePasteboardIsTheDesktopsClipboard)
 {
     const auto device = makeLinuxDevice();
     Pasteboard& pasteboard = *device->pasteboard;
-    pasteboard.setString("Movie Name: Amélie");
+    const QImage picture = plain({4, 3});
+    pasteboard.setContent("Movie Name: Amélie", picture);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QString("Movie Name: Amélie"));
-    EXPECT_FALSE(pasteboard.hasImages());
-    EXPECT_TRUE(pasteboard.image().isNull());
-
-    QImage picture(4, 3, QImage::Format_ARGB32);
-    picture.fill(Qt::red);
-    pasteboard.setImage(picture);
     EXPECT_EQ(QGuiApplication::clipboard()->image(), picture);
-    EXPECT_TRUE(pasteboard.hasImages());
     EXPECT_EQ(pasteboard.image(), picture);
+    pasteboard.setContent("", {});
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QString());
+    EXPECT_TRUE(pasteboard.image().isNull());
+}
+
+struct Copied
+{
+    const char* what;
+    std::vector<std::pair<QString, QByteArray>> content;
+    QSize size;
+};
+
+QByteArray addressOf(const QString& name, const QByteArray& content)
+{
+    const QString path = QDir::home().filePath(name);
+    writeFile(path, content);
+    return QUrl::fromLocalFile(path).toEncoded() + "\r\n";
+}
+
+TEST(LinuxPasteboardTest, TakesPicturesInAnyFormAndCopiedFiles)
+{
+    const QByteArray png = encoded(plain({4, 3}), "PNG");
+    const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'/>";
+    const Copied cases[] = {
+        {"a picture", {{"image/png", png}}, {4, 3}},
+        {"a picture of 38 million pixels",
+         {{"image/png", encoded(plain({6400, 6000}, QImage::Format_Mono), "PNG")}},
+         {3200, 3000}},
+        {"a picture and its address", {{"text/html", "<img src='x'>"}, {"image/jpeg", png}}, {4, 3}},
+        {"a drawing and its picture", {{"image/svg+xml", svg}, {"image/png", png}}, {4, 3}},
+        {"a drawing", {{"image/svg+xml", svg}}, {0, 0}},
+        {"a copied picture",
+         {{"text/uri-list", addressOf("a b.png", png)}, {"text/plain", "a b.png"}},
+         {4, 3}},
+        {"two files", {{"text/uri-list", addressOf("a.txt", "words") + addressOf("b.png", png)}}, {4, 3}},
+        {"a copied text", {{"text/uri-list", addressOf("a.txt", "words")}}, {0, 0}},
+        {"a place elsewhere", {{"text/uri-list", "https://example.org/a.png"}}, {0, 0}},
+        {"a picture that is none", {{"image/png", "none"}}, {0, 0}},
+    };
+    for (const auto& [what, content, size] : cases) {
+        QMimeData copied;
+        for (const auto& [format, bytes] : content)
+            copied.setData(format, bytes);
+        EXPECT_EQ(imageIn(copied).size(), size) << what;
+    }
 }
 
 } // namespace

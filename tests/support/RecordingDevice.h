@@ -74,10 +74,12 @@ struct RecordingDevice : Device
     };
     struct RecordingPasteboard : Pasteboard
     {
-        [[nodiscard]] bool hasImages() const override { return !picture.isNull(); }
         [[nodiscard]] QImage image() const override { return picture; }
-        void setString(const QString& value) override { text = value; }
-        void setImage(const QImage& value) override { picture = value; }
+        void setContent(const QString& words, const QImage& image) override
+        {
+            text = words;
+            picture = image;
+        }
         QString text;
         QImage picture;
     };

@@ -1,6 +1,7 @@
 #include "model/AppDelegate.h"
 #include "platform/foundation/Console.h"
 #include "storyboard/MainWindow.h"
+#include "tour/AccessibleListener.h"
 #include "tour/Chapters.h"
 #include "tour/Complaints.h"
 #include "tour/Tour.h"
@@ -62,6 +63,7 @@ int main(int argc, char** argv)
         const QApplication application(argc, argv);
         QGuiApplication::styleHints()->setCursorFlashTime(0);
         Complaints::listen();
+        AccessibleListener::start();
         play(outputFolder, QDir::current().absoluteFilePath(exchangeFile), home);
         return 0;
     } catch (const TourError& error) {

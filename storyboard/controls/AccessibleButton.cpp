@@ -2,16 +2,13 @@
 
 #include "storyboard/controls/ButtonItem.h"
 
-#include <QQmlContext>
-#include <QQmlEngine>
-#include <QQmlProperty>
 #include <QQuickWindow>
 
 void AccessibleButton::offer()
 {
     static const bool offered = [] {
         QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
-            auto* button = qobject_cast<ButtonItem*>(object);
+            auto* button = dynamic_cast<ButtonItem*>(object);
             return button != nullptr ? new AccessibleButton(button) : nullptr;
         });
         return true;
@@ -24,41 +21,51 @@ AccessibleButton::AccessibleButton(ButtonItem* button)
 {
 }
 
-ButtonItem& AccessibleButton::button() const
+// qobject_cast goes by the QML type, which outlives the ButtonItem part of the object.
+ButtonItem* AccessibleButton::button() const
 {
-    return *static_cast<ButtonItem*>(object());
+    return dynamic_cast<ButtonItem*>(object());
 }
 
 QVariant AccessibleButton::attached(const char* property) const
 {
-    return QQmlProperty::read(&button(), QStringLiteral("Accessible.") + QLatin1String(property),
-                              qmlContext(&button()));
+    const ButtonItem* item = button();
+    const QObject* values = item != nullptr ? item->accessibleAttached() : nullptr;
+    return values != nullptr ? values->property(property) : QVariant();
+}
+
+bool AccessibleButton::isValid() const
+{
+    return button() != nullptr;
 }
 
 // Not every item around it is one that assistive technology sees.
 QAccessibleInterface* AccessibleButton::parent() const
 {
-    const QQuickWindow* window = button().window();
-    QQuickItem* around = button().parentItem();
-    while (around != nullptr && (window == nullptr || around != window->contentItem())) {
+    const ButtonItem* item = button();
+    QQuickWindow* window = item != nullptr ? item->window() : nullptr;
+    if (window == nullptr)
+        return nullptr;
+    for (QQuickItem* around = item->parentItem(); around != nullptr && around != window->contentItem();
+         around = around->parentItem())
         if (auto* seen = QAccessible::queryAccessibleInterface(around); seen != nullptr)
             return seen;
-        around = around->parentItem();
-    }
-    return QAccessible::queryAccessibleInterface(button().window());
+    return QAccessible::queryAccessibleInterface(window);
 }
 
 QWindow* AccessibleButton::window() const
 {
-    return button().window();
+    const ButtonItem* item = button();
+    return item != nullptr ? item->window() : nullptr;
 }
 
 QRect AccessibleButton::rect() const
 {
-    const QQuickWindow* window = button().window();
+    const ButtonItem* item = button();
+    const QQuickWindow* window = item != nullptr ? item->window() : nullptr;
     if (window == nullptr)
         return {};
-    const QRectF inWindow = button().mapRectToScene(button().boundingRect());
+    const QRectF inWindow = item->mapRectToScene(item->boundingRect());
     return {window->mapToGlobal(inWindow.topLeft().toPoint()), inWindow.size().toSize()};
 }
 
@@ -70,12 +77,17 @@ QAccessible::Role AccessibleButton::role() const
 QAccessible::State AccessibleButton::state() const
 {
     QAccessible::State state;
-    const QQuickItem& item = button();
-    state.disabled = !item.isEnabled();
-    state.invisible = item.window() == nullptr || !item.window()->isVisible() || !item.isVisible() ||
-                      qFuzzyIsNull(item.opacity());
-    state.focusable = item.isEnabled() && item.activeFocusOnTab();
-    state.focused = item.hasActiveFocus();
+    const ButtonItem* item = button();
+    if (item == nullptr) {
+        state.invalid = true;
+        state.invisible = true;
+        return state;
+    }
+    state.disabled = !item->isEnabled();
+    state.invisible = item->window() == nullptr || !item->window()->isVisible() || !item->isVisible() ||
+                      qFuzzyIsNull(item->opacity());
+    state.focusable = item->isEnabled() && item->activeFocusOnTab();
+    state.focused = item->hasActiveFocus();
     state.selectable = attached("selectable").toBool();
     state.selected = attached("selected").toBool();
     return state;
@@ -100,10 +112,11 @@ void* AccessibleButton::interface_cast(QAccessible::InterfaceType kind)
 
 void AccessibleButton::doAction(const QString& name)
 {
-    if (!button().isEnabled())
+    ButtonItem* item = button();
+    if (item == nullptr || !item->isEnabled())
         return;
     if (name == setFocusAction())
-        button().forceActiveFocus();
+        item->forceActiveFocus();
     else if (name == pressAction())
-        Q_EMIT button().pressAsked();
+        Q_EMIT item->pressAsked();
 }

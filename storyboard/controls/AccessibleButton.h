@@ -4,7 +4,9 @@
 
 class ButtonItem;
 
-// A ButtonItem as assistive technology sees it.
+// A ButtonItem as assistive technology sees it. It evaluates no QML, because Qt asks for states while a
+// layout is being destroyed. From the moment the ButtonItem's destructor has run, it is invalid and says so
+// in its state.
 class AccessibleButton : public QAccessibleObject, public QAccessibleActionInterface
 {
 public:
@@ -13,6 +15,7 @@ public:
 
     explicit AccessibleButton(ButtonItem* button);
 
+    [[nodiscard]] bool isValid() const override;
     [[nodiscard]] QAccessibleInterface* parent() const override;
     [[nodiscard]] QAccessibleInterface* child(int) const override { return nullptr; }
     [[nodiscard]] int childCount() const override { return 0; }
@@ -29,6 +32,8 @@ public:
     [[nodiscard]] QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
 private:
-    [[nodiscard]] ButtonItem& button() const;
+    // Null once the ButtonItem's destructor has run.
+    [[nodiscard]] ButtonItem* button() const;
+    // The value of a property of the attached `Accessible`; invalid if there is none.
     [[nodiscard]] QVariant attached(const char* property) const;
 };

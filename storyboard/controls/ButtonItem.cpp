@@ -2,6 +2,10 @@
 
 #include "storyboard/controls/AccessibleButton.h"
 
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlProperty>
+
 ButtonItem::ButtonItem(QQuickItem* parent)
     : QQuickItem(parent)
 {
@@ -13,4 +17,11 @@ ButtonItem::ButtonItem(QQuickItem* parent)
         QAccessibleStateChangeEvent event(this, changed);
         QAccessible::updateAccessibility(&event);
     });
+}
+
+// Before the event that announces the item, which the base class sends.
+void ButtonItem::componentComplete()
+{
+    attached = QQmlProperty(this, QStringLiteral("Accessible.role"), qmlContext(this)).object();
+    QQuickItem::componentComplete();
 }

@@ -6,23 +6,27 @@
 #include "storyboard/SceneTable.h"
 #include "tests/storyboard/Warnings.h"
 #include "tests/support/Catalogue.h"
+#include "tour/AccessibleListener.h"
 #include "tour/AccessibleTree.h"
 
 #include <QQuickItem>
 #include <QtTest>
 
-// The program's window at the home menu, with a catalogue of one movie. A warning of a layout fails the test.
+// The program's window at the home menu, with a catalogue of one movie, and an assistive technology that
+// listens. A warning of a layout fails the test.
 class SceneTest : public CatalogueTest
 {
 protected:
     void SetUp() override
     {
+        AccessibleListener::start();
         given({.name = "Zoolander", .genre = "Comedy", .rating = "PG-13", .year = 2001});
         shared().SelectedYear = 2001;
         shared().SelectedMonth = 1;
         window = std::make_unique<MainWindow>();
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        ASSERT_GT(AccessibleListener::eventCount(), 0) << "nobody listens";
     }
 
     void TearDown() override

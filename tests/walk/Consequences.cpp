@@ -62,7 +62,7 @@ std::optional<Consequence> Consequences::of(const Seen& control) const
         return [this] { state.model.importText(state.loadedText); };
     if (control.name == "Remove" && screenClass == "AddMovieViewController")
         return [this, screen] { state.model.showCover(screen, false); };
-    if (control.name == "Paste" && state.program.device.pasteboardTwin->hasImages())
+    if (control.name == "Paste" && !state.program.device.pasteboardTwin->picture.isNull())
         return [this, screen] { state.model.showCover(screen, true); };
     return Consequence();
 }

@@ -2,6 +2,7 @@
 
 #include "tests/walk/FakeClock.h"
 #include "tests/walk/Walk.h"
+#include "tour/AccessibleListener.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -74,6 +75,7 @@ void walk(unsigned seed, const std::vector<Step>& steps, const Report& report)
     int count = 1;
     {
         const QApplication application(count, arguments);
+        AccessibleListener::start();
         walk(seed, steps, Report(pipe));
     }
     std::_Exit(0);

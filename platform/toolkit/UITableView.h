@@ -2,6 +2,7 @@
 
 #include "platform/toolkit/Appearance.h"
 #include "platform/toolkit/UIMenu.h"
+#include "platform/toolkit/UISwipeActionsConfiguration.h"
 
 #include <QAbstractListModel>
 
@@ -38,7 +39,11 @@ public:
     virtual void didSelectRowAt(const NSIndexPath& indexPath) = 0;
 };
 
-// A scrolling list of rows, made only as they come into sight: the one role `cell` asks the data source.
+// A scrolling list of rows, made only as they come into sight: the role `cell` asks the data source.
+//
+// What the user does to a row names it by its key, the role `rowKey`, because a position holds another record
+// once the table has reloaded. A key is the row's until the next reload or until the row is deleted, and is
+// never used again. An unknown key does nothing.
 class UITableView : public QAbstractListModel
 {
     Q_OBJECT
@@ -51,12 +56,13 @@ class UITableView : public QAbstractListModel
 
 public:
     static constexpr int CellRole = Qt::UserRole;
+    static constexpr int RowKeyRole = Qt::UserRole + 1;
     enum class EditingStyle { None, Delete, Insert };
 
     // `source` must outlive the table.
     explicit UITableView(UITableViewDataSource& source, QObject* parent = nullptr);
 
-    // Shows what the data source holds now. The place scrolled to stays.
+    // Shows what the data source holds now. The place scrolled to stays; every row gets a new key.
     void reloadData();
     // Takes one row out, fading; the data source must already lack it.
     void deleteRowAt(const NSIndexPath& indexPath);
@@ -64,13 +70,19 @@ public:
     [[nodiscard]] LabelContent header() const;
     [[nodiscard]] bool hasHeader() const;
     [[nodiscard]] double rowHeight() const;
-    [[nodiscard]] int count() const { return rows; }
+    [[nodiscard]] int count() const { return static_cast<int>(keys.size()); }
 
-    // The user tapped a row.
-    Q_INVOKABLE void select(int row);
-    // The titles of the buttons that a swipe uncovers; none where a row can't be edited.
-    Q_INVOKABLE [[nodiscard]] QStringList swipeActionTitles(int row) const;
-    Q_INVOKABLE void performSwipeAction(int row, int action);
+    // `row` must be one of the table.
+    [[nodiscard]] qint64 rowKey(int row) const { return keys[static_cast<std::size_t>(row)]; }
+
+    // The user tapped the row that is at `row` now. A row outside does nothing.
+    void select(int row);
+    // The user tapped the row with that key.
+    Q_INVOKABLE void selectRow(qint64 rowKey);
+    // The buttons that a swipe uncovers; none where a row can't be edited.
+    Q_INVOKABLE [[nodiscard]] UISwipeActionsConfiguration swipeActions(qint64 rowKey) const;
+    // `action` is an index of the titles; one outside does nothing.
+    Q_INVOKABLE void performSwipeAction(const UISwipeActionsConfiguration& actions, int action);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -82,8 +94,13 @@ Q_SIGNALS:
     void selected(int row);
 
 private:
-    [[nodiscard]] bool holds(int row) const { return row >= 0 && row < rows; }
+    [[nodiscard]] bool holds(int row) const { return row >= 0 && row < count(); }
+    // Null if no row has that key.
+    [[nodiscard]] std::optional<NSIndexPath> pathOf(qint64 rowKey) const;
+    [[nodiscard]] std::vector<UIAction> actionsOf(const std::optional<NSIndexPath>& path) const;
 
     UITableViewDataSource& source;
-    int rows = 0;
+    // One for each row, ascending.
+    std::vector<qint64> keys;
+    qint64 lastKey = 0;
 };

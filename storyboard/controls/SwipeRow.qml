@@ -4,10 +4,12 @@ import QtQuick
 import Marrowvale.Toolkit
 
 // A row of a table. Drawn to the left, held or right-clicked, it uncovers its swipe actions; drawn far enough, it
-// does the first of them.
+// does the first of them. What the user began on one record never ends on another: the row closes when it gets
+// another one, and a tap or a hold counts only on the record that was pressed.
 Item {
     id: row
 
+    required property real rowKey
     required property int index
     required property UITableView table
     property string spokenName
@@ -17,20 +19,36 @@ Item {
     readonly property bool isOpen: face.x < 0
     readonly property bool isMarked: ListView.isCurrentItem && view !== null && view.activeFocus && view.keyboardUsed
     readonly property var view: ListView.view
-    property var actions: []
+    // While a finger draws another row aside, this one takes no part.
+    readonly property bool reacts: view === null || view.swipedRow === null || view.swipedRow === row
+    property real pressedKey: 0
+    property swipeActionsConfiguration actions
+    property swipeActionsConfiguration noActions
+
+    // Returns whether there are any.
+    function takeActions(): bool {
+        row.actions = row.table.swipeActions(row.rowKey);
+        return row.actions.titles.length > 0;
+    }
 
     function uncover() {
-        row.actions = row.table.swipeActionTitles(row.index);
-        if (row.actions.length === 0)
+        if (!row.takeActions())
             return;
         row.view.keepOpen(row);
-        slide.to = -row.actionWidth * row.actions.length;
+        slide.to = -row.actionWidth * row.actions.titles.length;
         slide.restart();
     }
 
     function cover() {
         slide.to = 0;
         slide.restart();
+    }
+
+    // At once, because the record that was drawn aside is gone.
+    function close() {
+        slide.stop();
+        face.x = 0;
+        row.actions = row.noActions;
     }
 
     function uncoverOrAct() {
@@ -42,15 +60,21 @@ Item {
 
     function act(action: int) {
         row.view.openRow = null;
-        row.table.performSwipeAction(row.index, action);
+        row.table.performSwipeAction(row.actions, action);
+    }
+
+    function choose() {
+        row.table.selectRow(row.rowKey);
     }
 
     function activate() {
         if (row.isOpen)
             row.cover();
         else
-            row.table.select(row.index);
+            row.choose();
     }
+
+    onRowKeyChanged: close()
 
     width: ListView.view !== null ? ListView.view.width : 0
     height: table.rowHeight
@@ -62,12 +86,13 @@ Item {
     Accessible.onPressAction: activate()
 
     // A row out of use is only not drawn: assistive technology would still find it.
-    ListView.onPooled: visible = false
+    ListView.onPooled: {
+        visible = false;
+        close();
+    }
     // A row in use again shows no trace of the one before.
     ListView.onReused: {
         visible = true;
-        slide.stop();
-        face.x = 0;
         opacity = 1;
     }
 
@@ -87,14 +112,14 @@ Item {
         visible: row.isOpen
 
         Repeater {
-            model: row.isOpen ? row.actions.length : 0
+            model: row.isOpen ? row.actions.titles.length : 0
 
             SwipeButton {
                 required property int index
 
                 width: Math.max(row.actionWidth, index === 0 ? -face.x : 0) - 6
                 height: row.height
-                title: row.actions[index]
+                title: row.actions.titles[index] ?? ""
                 onTriggered: row.act(index)
             }
         }
@@ -108,19 +133,24 @@ Item {
 
         // Handlers, not a MouseArea: that would keep a finger from drawing the list along.
         TapHandler {
-            onPressedChanged: if (pressed)
-                row.view.keyboardUsed = false
-            onTapped: {
+            enabled: row.reacts
+            onPressedChanged: if (pressed) {
+                row.view.keyboardUsed = false;
+                row.pressedKey = row.rowKey;
+            }
+            onTapped: if (row.pressedKey === row.rowKey) {
                 row.view.currentIndex = row.index;
                 row.activate();
             }
-            onLongPressed: row.uncover()
+            onLongPressed: if (row.pressedKey === row.rowKey)
+                row.uncover()
         }
 
         TapHandler {
-            // A finger has no buttons: it would count as one.
+            // A finger has no buttons: every tap of one would be taken for a right click.
             acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
             acceptedButtons: Qt.RightButton
+            enabled: row.reacts
             onTapped: row.uncover()
         }
 
@@ -132,12 +162,14 @@ Item {
             target: null
             yAxis.enabled: false
             dragThreshold: 12
+            enabled: row.reacts
             onActiveChanged: {
+                row.view.swipedRow = active ? row : null;
                 if (active) {
-                    row.actions = row.table.swipeActionTitles(row.index);
+                    row.takeActions();
                     row.view.keepOpen(row);
                     from = face.x;
-                } else if (row.actions.length > 0 && face.x < -0.6 * row.width) {
+                } else if (face.x < -0.6 * row.width) {
                     row.act(0);
                 } else if (face.x < -row.actionWidth / 2) {
                     row.uncover();
@@ -145,7 +177,7 @@ Item {
                     row.cover();
                 }
             }
-            onActiveTranslationChanged: if (active && row.actions.length > 0)
+            onActiveTranslationChanged: if (active && row.actions.titles.length > 0)
                 face.x = Math.max(-row.width, Math.min(0, from + activeTranslation.x))
         }
     }

@@ -45,6 +45,8 @@ FocusScope {
         // Rows show where the keyboard is once it has been used.
         property bool keyboardUsed: false
         property SwipeRow openRow: null
+        // Under a finger that draws it aside.
+        property SwipeRow swipedRow: null
 
         function keepOpen(row: SwipeRow) {
             if (list.openRow !== null && list.openRow !== row)
@@ -100,7 +102,7 @@ FocusScope {
             else if (event.key === Qt.Key_End)
                 list.go(list.count - 1);
             else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
-                table.outlet.select(list.currentIndex);
+                (list.currentItem as SwipeRow)?.choose();
             else if (event.key === Qt.Key_Delete)
                 (list.currentItem as SwipeRow)?.uncoverOrAct();
             else if (event.key === Qt.Key_Escape && list.openRow !== null)

@@ -167,8 +167,8 @@ TEST_F(MovieListTest, ASwipeDeletesFromTheStoreAndFromTheShownListAlone)
     given({.name = "Brazil"});
     MainListTableViewController& list = opened();
     search(list, "alien");
-    ASSERT_EQ(list.tableView()->swipeActionTitles(0), QStringList("delete"));
-    list.tableView()->performSwipeAction(0, 0);
+    ASSERT_EQ(list.tableView()->swipeActions(list.tableView()->rowKey(0)).titles, QStringList("delete"));
+    list.tableView()->performSwipeAction(list.tableView()->swipeActions(list.tableView()->rowKey(0)), 0);
 
     EXPECT_EQ(namesShown(list), QStringList("Alien"));
     EXPECT_EQ(list.viewForHeaderInSection(0)->text, "# Movies = 1 of 3")

@@ -108,12 +108,12 @@ TEST_P(ReferenceListTest, ASwipeDeletesOneRecordForGoodAndNoMovieKnows)
 
     screen.commitEditingStyle(UITableView::EditingStyle::Delete, {2});
     EXPECT_EQ(screen.listOfValues.size(), 3U) << "the table's own edit touches no data";
-    ASSERT_EQ(table.swipeActionTitles(1), QStringList("delete"));
-    table.performSwipeAction(1, 0);
+    ASSERT_EQ(table.swipeActions(table.rowKey(1)).titles, QStringList("delete"));
+    table.performSwipeAction(table.swipeActions(table.rowKey(1)), 0);
     EXPECT_EQ(stored(), QStringList({"Drama", "Epic"}));
     EXPECT_EQ(table.header().text, member.header + QString("2"));
     EXPECT_EQ(screen.presentedViewController(), nullptr) << "no question is asked";
-    table.performSwipeAction(0, 0);
+    table.performSwipeAction(table.swipeActions(table.rowKey(0)), 0);
     EXPECT_EQ(referenceTexts(context(), member.entity, member.attribute), QStringList("Epic"));
     EXPECT_EQ(movie->valueForKey(member.movieAttribute), AttributeValue(QString("Drama")));
 }

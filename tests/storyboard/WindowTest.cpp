@@ -83,26 +83,6 @@ TEST_F(WindowTest, TypingIntoALongLineLosesNothingOfIt)
     EXPECT_EQ(name.text(), QString(40'000, 'x') + 'y');
 }
 
-TEST_F(WindowTest, AFingerDrawsTheListAlongAndOpensNoRow)
-{
-    for (int number = 0; number < 30; ++number)
-        given({.name = QString::number(number)});
-    follow("MovieList");
-    const QObject* list = visible(QAccessible::List, "Movies")->object();
-    const double before = list->property("contentY").toDouble();
-    QPointingDevice* finger = QTest::createTouchDevice();
-    constexpr QPoint from(200, 400);
-    constexpr QPoint way(0, -200);
-    QTest::touchEvent(window.get(), finger).press(0, from);
-    for (int move = 1; move <= 12; ++move) {
-        QTest::qWait(10);
-        QTest::touchEvent(window.get(), finger).move(0, from + way * move / 12);
-    }
-    EXPECT_GT(list->property("contentY").toDouble(), before + 100);
-    QTest::touchEvent(window.get(), finger).release(0, from + way);
-    EXPECT_EQ(navigation().depth(), 2);
-}
-
 TEST_F(WindowTest, TwoFingersMakeTheCoverLarger)
 {
     navigation().push(std::make_unique<ZoomViewController>());

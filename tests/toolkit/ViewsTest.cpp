@@ -123,20 +123,52 @@ TEST(TableViewTest, TapsAndSwipesReachOnlyRowsThatAreThere)
     UITableView table(numbers);
     table.reloadData();
     const QSignalSpy selections(&table, &UITableView::selected);
+    const auto swipe = [&](int row, int action) {
+        table.performSwipeAction(table.swipeActions(table.rowKey(row)), action);
+    };
 
     table.select(3);
     table.select(-1);
-    table.performSwipeAction(0, 0);
-    table.performSwipeAction(1, 1);
+    table.selectRow(0);
+    swipe(0, 0);
+    swipe(1, 1);
+    table.performSwipeAction({}, 0);
     EXPECT_EQ(numbers.chosen, -1);
     EXPECT_EQ(numbers.swiped, -1);
-    EXPECT_TRUE(table.swipeActionTitles(0).isEmpty());
+    EXPECT_TRUE(table.swipeActions(table.rowKey(0)).titles.isEmpty());
 
-    table.select(2);
-    table.performSwipeAction(1, 0);
+    table.selectRow(table.rowKey(2));
+    swipe(1, 0);
     EXPECT_EQ(numbers.chosen, 2);
     EXPECT_EQ(numbers.swiped, 1);
     EXPECT_EQ(selections.size(), 1);
+}
+
+TEST(TableViewTest, WhatWasBegunOnARowFollowsItsRecordUntilTheTableReloads)
+{
+    Numbers numbers;
+    numbers.values = {1, 2, 3, 4};
+    UITableView table(numbers);
+    table.reloadData();
+    const qint64 key = table.rowKey(3);
+    const UISwipeActionsConfiguration uncovered = table.swipeActions(key);
+
+    numbers.values.erase(numbers.values.begin() + 1);
+    table.deleteRowAt({1});
+    table.selectRow(key);
+    table.performSwipeAction(uncovered, 0);
+    EXPECT_EQ(numbers.chosen, 2);
+    EXPECT_EQ(numbers.swiped, 2);
+
+    numbers.chosen = numbers.swiped = -1;
+    for (const std::vector<int>& values : std::vector<std::vector<int>>{{1, 3, 4}, {4, 3}, {4, 3, 1, 5}}) {
+        numbers.values = values;
+        table.reloadData();
+        table.selectRow(key);
+        table.performSwipeAction(uncovered, 0);
+        EXPECT_EQ(numbers.chosen, -1);
+        EXPECT_EQ(numbers.swiped, -1) << "another record stands there";
+    }
 }
 
 TEST(DatePickerTest, PickingKeepsTheTimeAndClampsToTheMonth)

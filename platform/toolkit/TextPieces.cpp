@@ -42,6 +42,12 @@ void TextPieces::cut(const NSAttributedString& text)
     endResetModel();
 }
 
+QString TextPieces::piece(int row) const
+{
+    const Place& place = places[static_cast<std::size_t>(row)];
+    return whole.mid(place.from, place.length);
+}
+
 QString TextPieces::replace(int row, const QString& replacement)
 {
     Place& changed = places[static_cast<std::size_t>(row)];
@@ -62,23 +68,22 @@ QVariant TextPieces::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || role != PieceRole)
         return {};
-    const Place& place = places[static_cast<std::size_t>(index.row())];
-    TextPiece piece;
+    TextPiece shown;
     if (runs.empty()) {
-        piece.text = whole.mid(place.from, place.length);
-        return QVariant::fromValue(piece);
+        shown.text = piece(index.row());
+        return QVariant::fromValue(shown);
     }
-    const NSAttributedString::Run& run = runs[place.run];
-    piece.fontSize = run.style.fontSize;
-    piece.centred = run.style.centred;
+    const NSAttributedString::Run& run = runs[places[static_cast<std::size_t>(index.row())].run];
+    shown.fontSize = run.style.fontSize;
+    shown.centred = run.style.centred;
     if (!run.attachment) {
-        piece.text = whole.mid(place.from, place.length);
-        return QVariant::fromValue(piece);
+        shown.text = piece(index.row());
+        return QVariant::fromValue(shown);
     }
-    piece.image =
+    shown.image =
         run.attachment->encoded.isEmpty() ? run.attachment->image : imageWithData(run.attachment->encoded);
-    piece.imageSize = run.attachment->size;
-    return QVariant::fromValue(piece);
+    shown.imageSize = run.attachment->size;
+    return QVariant::fromValue(shown);
 }
 
 QHash<int, QByteArray> TextPieces::roleNames() const

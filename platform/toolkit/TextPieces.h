@@ -45,6 +45,8 @@ public:
     void cut(const NSAttributedString& text);
 
     [[nodiscard]] const QString& text() const { return whole; }
+    // The text of a piece of a plain text.
+    [[nodiscard]] QString piece(int row) const;
     // The text as it is once the piece of a plain text reads `replacement`. The pieces stay as they are but
     // for their places, so that a cursor in one is not lost.
     [[nodiscard]] QString replace(int row, const QString& replacement);

@@ -32,8 +32,10 @@ public:
     Q_INVOKABLE void becomeFirstResponder();
     Q_INVOKABLE void resignFirstResponder();
 
-    // The user changed the whole text to `newText` (typed, deleted, pasted). Answers whether the change was
-    // accepted, in the form that fits; a layout whose change was refused shows `text` again.
+    // The user changed the whole text to `newText` (typed, deleted, pasted), as the layout's editor has it.
+    // Returns whether the change was accepted, in the form that fits; a layout whose change was refused shows
+    // `text` again. What the user did not touch keeps its characters, also those that the editor shows as
+    // others.
     Q_INVOKABLE bool edit(const QString& newText);
 
 Q_SIGNALS:
@@ -41,8 +43,13 @@ Q_SIGNALS:
     void editingChanged();
 
 protected:
-    // What a text becomes in this view.
+    // What a text that is put in becomes in this view.
     [[nodiscard]] virtual QString fitted(const QString& text) const { return text; }
+    // Returns what the layout's editor makes of `character`. Where it makes a line feed of a carriage return,
+    // it makes one of both together.
+    [[nodiscard]] virtual QChar shownFor(QChar character) const { return character; }
+    // Returns `stored` after the user changed it to `newText` in the editor.
+    [[nodiscard]] QString edited(const QString& stored, const QString& newText) const;
     virtual bool allowsChange(const NSRange& range, const QString& replacement) = 0;
 
 private:

@@ -1,5 +1,14 @@
 #include "platform/toolkit/UITextView.h"
 
+// An editor of several lines knows one kind of line break and one kind of blank.
+QChar UITextView::shownFor(QChar character) const
+{
+    constexpr QStringView lineBreaks = u"\r\u2028\u2029\ufdd0\ufdd1";
+    if (lineBreaks.contains(character))
+        return u'\n';
+    return character == QChar::Nbsp ? QChar(u' ') : character;
+}
+
 bool UITextView::allowsChange(const NSRange& range, const QString& replacement)
 {
     if (!editable)
@@ -38,6 +47,6 @@ void UITextView::followText()
 
 void UITextView::editPiece(int row, const QString& newText)
 {
-    if (!edit(cutText->replace(row, newText)))
+    if (!edit(cutText->replace(row, edited(cutText->piece(row), newText))))
         cutText->cut(text());
 }

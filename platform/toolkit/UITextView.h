@@ -43,6 +43,7 @@ public:
     Q_INVOKABLE void editPiece(int row, const QString& newText);
 
 protected:
+    [[nodiscard]] QChar shownFor(QChar character) const override;
     bool allowsChange(const NSRange& range, const QString& replacement) override;
 
 private:

@@ -13,12 +13,14 @@ Connections {
     property bool showing: false
 
     function show() {
-        const surplus = link.input.length - link.outlet.text.length;
+        const length = link.input.length;
         const cursor = link.input.cursorPosition;
         link.showing = true;
         link.input.text = link.outlet.text;
         link.showing = false;
         link.shownText = link.outlet.text;
+        // The element may show fewer characters than the outlet has.
+        const surplus = length - link.input.length;
         link.input.cursorPosition = Math.max(0, Math.min(cursor - surplus, link.input.length));
     }
 

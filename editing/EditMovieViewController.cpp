@@ -2,7 +2,6 @@
 
 #include "editing/DateEntry.h"
 #include "model/MovieLines.h"
-#include "model/SharedValues.h"
 #include "platform/foundation/Calendar.h"
 #include "platform/foundation/Console.h"
 #include "platform/foundation/DispatchQueue.h"
@@ -44,6 +43,7 @@ void EditMovieViewController::viewDidLoad()
 {
     setTitle(QStringLiteral("Update Movie"));
     MovieEditorViewController::viewDidLoad();
+    opening = {shared().CurrentMovie, shared().ReturnScreen};
     showCurrentMovie();
     showDateWatched();
     showCover();
@@ -52,6 +52,12 @@ void EditMovieViewController::viewDidLoad()
         if (screen)
             screen->reviewService.requestReview();
     });
+}
+
+void EditMovieViewController::viewWillAppear(bool /*animated*/)
+{
+    shared().CurrentMovie = opening.movie;
+    shared().ReturnScreen = opening.returnScreen;
 }
 
 void EditMovieViewController::showCurrentMovie()

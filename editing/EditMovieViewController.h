@@ -2,6 +2,7 @@
 
 #include "editing/MovieEditorViewController.h"
 #include "feedback/ReviewService.h"
+#include "model/SharedValues.h"
 #include "platform/toolkit/UIBarButtonItem.h"
 
 // The update of the movie in CurrentMovie, which is also found again by the title and year that it has there.
@@ -20,6 +21,8 @@ class EditMovieViewController : public MovieEditorViewController
 public:
     // Asks for a review five seconds later, unless the screen is gone by then.
     void viewDidLoad() override;
+    // Its movie and its way back are those of its opening, whatever another tab has opened since.
+    void viewWillAppear(bool animated) override;
 
     // Shows the stored cover large.
     Q_INVOKABLE void TapFrontImage();
@@ -47,10 +50,18 @@ protected:
     void leave() override;
 
 private:
+    struct Opening
+    {
+        MovieFields movie;
+        QString returnScreen;
+    };
+
     void showCurrentMovie();
     void showDateWatched();
     void showCover();
     void labelBarButtons();
     [[nodiscard]] std::vector<std::shared_ptr<Movies>> selectedRecords();
     void removeStoredCover();
+
+    Opening opening;
 };

@@ -3,7 +3,7 @@
 #include "platform/toolkit/UIBarButtonItem.h"
 #include "platform/toolkit/UITextInput.h"
 #include "platform/toolkit/UIViewController.h"
-#include "storyboard/SegueTrigger.h"
+#include "storyboard/ControlTrigger.h"
 
 #include <QMetaMethod>
 #include <QMetaProperty>
@@ -95,7 +95,7 @@ private:
             return;
         const QMetaMethod action = actionNamed(name);
         if (action.isValid())
-            QObject::connect(control, triggeredSignal(control), &screen, action);
+            bindTrigger(control, [&screen = screen, action] { action.invoke(&screen); });
     }
 
     void bindSegue(QObject* control)
@@ -107,8 +107,13 @@ private:
             missing.append(QStringLiteral("segue ") + identifier);
             return;
         }
-        auto* trigger = new SegueTrigger(screen, identifier, control);
-        QObject::connect(control, triggeredSignal(control), trigger, SegueTrigger::slot());
+        bindTrigger(control, [&screen = screen, identifier] { screen.performSegue(identifier); });
+    }
+
+    void bindTrigger(QObject* control, std::function<void()> act)
+    {
+        auto* trigger = new ControlTrigger(screen, std::move(act), control);
+        QObject::connect(control, triggeredSignal(control), trigger, ControlTrigger::slot());
     }
 
     void bindBeginAction(QObject* control)

@@ -19,7 +19,7 @@ Item {
     readonly property bool isOpen: face.x < 0
     readonly property bool isMarked: ListView.isCurrentItem && view !== null && view.activeFocus && view.keyboardUsed
     readonly property var view: ListView.view
-    // While a finger draws another row aside, this one takes no part.
+    // While a finger draws a row aside, no other takes part, and a second finger taps none.
     readonly property bool reacts: view === null || view.swipedRow === null || view.swipedRow === row
     property real pressedKey: 0
     property swipeActionsConfiguration actions
@@ -138,11 +138,11 @@ Item {
                 row.view.keyboardUsed = false;
                 row.pressedKey = row.rowKey;
             }
-            onTapped: if (row.pressedKey === row.rowKey) {
+            onTapped: if (row.pressedKey === row.rowKey && !drag.active) {
                 row.view.currentIndex = row.index;
                 row.activate();
             }
-            onLongPressed: if (row.pressedKey === row.rowKey)
+            onLongPressed: if (row.pressedKey === row.rowKey && !drag.active)
                 row.uncover()
         }
 

@@ -60,6 +60,8 @@ std::optional<Consequence> Consequences::of(const Seen& control) const
         return ofSaving();
     if (screenClass == "ImportViewController" && control.name == "Import File")
         return [this] { state.model.importText(state.loadedText); };
+    if (control.name == "Create and Print")
+        return [this, screen] { state.model.createPrint(screen); };
     if (control.name == "Remove" && screenClass == "AddMovieViewController")
         return [this, screen] { state.model.showCover(screen, false); };
     if (control.name == "Paste" && !state.program.device.pasteboardTwin->picture.isNull())

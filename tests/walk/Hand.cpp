@@ -33,6 +33,20 @@ Seen seenOf(QAccessibleInterface& seen, QQuickItem& item, const QSize& window)
     return found;
 }
 
+// What a spinner turns over can't be touched.
+void coverBySpinners(std::vector<Seen>& all)
+{
+    QList<QRect> covered;
+    for (const Seen& seen : all)
+        if (seen.role == QAccessible::ProgressBar &&
+            QByteArray(seen.item->parentItem()->metaObject()->className()).startsWith("ActivityIndicator"))
+            covered.append(placeOf(*seen.item->parentItem()).toAlignedRect());
+    for (Seen& seen : all)
+        for (const QRect& place : covered)
+            if (place.contains(seen.part.center()))
+                seen.part = {};
+}
+
 bool isMovingIn(const QQuickItem& item)
 {
     const QList<QQuickItem*> children = item.childItems();
@@ -80,6 +94,7 @@ std::vector<Seen> Hand::look() const
         if (item != nullptr && !seen.state().invisible && item->isVisible())
             found.push_back(seenOf(seen, *item, window.size()));
     });
+    coverBySpinners(found);
     if (std::any_of(found.begin(), found.end(), [](const Seen& seen) { return seen.inPopup; }))
         std::erase_if(found, [](const Seen& seen) { return !seen.inPopup; });
     return found;

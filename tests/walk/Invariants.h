@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/walk/WalkState.h"
+#include "tests/walk/SentOut.h"
 
 // What holds after every step of any walk. Each check throws WalkFailure.
 class Invariants
@@ -8,6 +8,7 @@ class Invariants
 public:
     explicit Invariants(WalkState& state)
         : state(state)
+        , sentOut(state)
     {
     }
 
@@ -23,4 +24,5 @@ private:
     void checkOutput();
 
     WalkState& state;
+    SentOut sentOut;
 };

@@ -1,5 +1,7 @@
 #include "tests/walk/ModelProgram.h"
 
+#include "tests/walk/ModelTexts.h"
+
 namespace {
 
 using Content = ModelListKind::Content;
@@ -18,7 +20,13 @@ ModelEditor* ModelProgram::editor(int screen)
     return found == editors.end() ? nullptr : &found->second;
 }
 
-void ModelProgram::open(int screen, const QString& screenClass)
+ModelPrint* ModelProgram::print(int screen)
+{
+    const auto found = prints.find(screen);
+    return found == prints.end() ? nullptr : &found->second;
+}
+
+void ModelProgram::open(int screen, const QString& screenClass, int below)
 {
     if (const auto* kind = listKindOf(screenClass)) {
         ModelScene& scene = lists[screen];
@@ -26,11 +34,16 @@ void ModelProgram::open(int screen, const QString& screenClass)
         // The movie list inverts its direction before it first loads.
         scene.ascending = kind->content != Content::Movies;
         load(scene);
+        if (kind->content == Content::MoviesOfGroup)
+            lastAscending = true;
+    } else if (screenClass == "PrintMoviesViewController") {
+        prints[screen] = printOpenedFrom(list(below));
     } else if (screenClass == "AddMovieViewController") {
         editors[screen].days = {QDate::currentDate()};
     } else if (screenClass == "EditMovieViewController") {
         ModelEditor& editor = editors[screen];
         editor.changesStoredMovie = true;
+        editor.film = chosen.film;
         editor.showsCover = chosen.film.hasCover;
         editor.days = {chosen.film.watched ? chosen.film.watched->toLocalTime().date()
                                            : QDate::currentDate()};
@@ -42,12 +55,16 @@ void ModelProgram::appear(int screen)
     ModelScene* scene = list(screen);
     if (scene != nullptr && scene->kind->content == Content::Movies)
         scene->ascending = !scene->ascending;
+    // Another tab may have chosen another movie since.
+    if (const ModelEditor* open = editor(screen); open != nullptr && open->changesStoredMovie)
+        chosen.film = open->film;
 }
 
 void ModelProgram::close(int screen)
 {
     lists.erase(screen);
     editors.erase(screen);
+    prints.erase(screen);
 }
 
 void ModelProgram::load(ModelScene& scene)
@@ -62,6 +79,28 @@ void ModelProgram::load(ModelScene& scene)
     scene.load(catalogue);
 }
 
+// All movies, or those of the group: its search counts for nothing.
+ModelPrint ModelProgram::printOpenedFrom(const ModelScene* list) const
+{
+    static const ModelListKind everything{"", Content::Movies, ""};
+    ModelScene printed;
+    printed.kind = &everything;
+    if (list != nullptr)
+        printed = *list;
+    printed.ascending = lastAscending;
+    printed.load(catalogue);
+    std::optional<QString> title;
+    if (list != nullptr && list->kind->returnScreen == "GenreBreakdown")
+        title = "Movies Filtered by Genre: " + list->chosenText;
+    return {printed.films, title, {}};
+}
+
+void ModelProgram::createPrint(int screen)
+{
+    if (ModelPrint* open = print(screen))
+        open->text += printedText(open->films, open->title);
+}
+
 void ModelProgram::tapSort(int screen)
 {
     ModelScene& scene = *list(screen);
@@ -71,6 +110,8 @@ void ModelProgram::tapSort(int screen)
     } else {
         scene.sort(catalogue);
     }
+    if (scene.kind->content != Content::Movies)
+        lastAscending = scene.ascending;
 }
 
 void ModelProgram::chooseOrder(int screen, MovieKey key)

@@ -12,9 +12,20 @@ using FormTexts = QHash<QString, QString>;
 struct ModelEditor
 {
     bool changesStoredMovie = false;
+    // As it was when the editor opened.
+    ModelFilm film;
     bool showsCover = false;
     // The days that its date has had so far: the pickers' ways to one of them are their own business.
     QSet<QDate> days;
+};
+
+// An open print screen.
+struct ModelPrint
+{
+    std::vector<FilmPointer> films;
+    std::optional<QString> title;
+    // What was created so far.
+    QString text;
 };
 
 // What the program should hold and show after each act of its user, as far as the catalogue and the lists go.
@@ -27,7 +38,8 @@ public:
     {
     }
 
-    void open(int screen, const QString& screenClass);
+    // `below`: the screen that it was opened from; 0: none.
+    void open(int screen, const QString& screenClass, int below);
     // It is on top, the first time or again.
     void appear(int screen);
     void close(int screen);
@@ -55,6 +67,9 @@ public:
     // Null where the screen is no such list.
     [[nodiscard]] ModelScene* list(int screen);
     [[nodiscard]] ModelEditor* editor(int screen);
+    [[nodiscard]] ModelPrint* print(int screen);
+    // "Create and Print".
+    void createPrint(int screen);
 
     ModelCatalogue catalogue;
 
@@ -75,12 +90,16 @@ private:
     };
 
     void load(ModelScene& scene);
+    [[nodiscard]] ModelPrint printOpenedFrom(const ModelScene* list) const;
     void keepTexts();
     void write(ModelFilm& film, const FormTexts& form, const ModelEditor& editor);
     void importLine(const QStringList& fields);
 
     std::map<int, ModelScene> lists;
     std::map<int, ModelEditor> editors;
+    std::map<int, ModelPrint> prints;
+    // The direction last chosen on a summary or on one of its lists.
+    bool lastAscending = true;
     Chosen chosen;
     std::vector<OpenDay> openDays;
 };

@@ -10,15 +10,15 @@ QString longDate(const QDateTime& moment)
         .toString(moment.toLocalTime().date(), "MMMM d, yyyy");
 }
 
-QString oneLine(QString people)
+} // namespace
+
+QString peopleOnOneLine(QString people)
 {
     people.replace('\n', ',');
     if (people.endsWith(','))
         people.chop(1);
     return people;
 }
-
-} // namespace
 
 QString movieRowText(const ModelFilm& film, MovieKey key)
 {
@@ -59,7 +59,7 @@ QString groupMovieRowText(const ModelFilm& film, const ModelListKind& kind)
     }
     return first + "\n " + film.name.value_or("") + afterName +
            "  Run Time: " + QString::number(film.runTime) +
-           " min.\nActors: " + oneLine(film.actors.value_or(""));
+           " min.\nActors: " + peopleOnOneLine(film.actors.value_or(""));
 }
 
 QString groupRowText(const QString& label, qsizetype count)

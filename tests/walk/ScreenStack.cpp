@@ -14,6 +14,8 @@ std::vector<ScreenStack::Change> ScreenStack::follow()
     followOne(outer, changes);
     if (auto& inner = innermost(); &inner != &outer)
         followOne(inner, changes);
+    if (const int now = topNumber(); std::exchange(lastTop, now) != now)
+        changes.push_back({Change::Kind::Appeared, now, topClass()});
     return changes;
 }
 
@@ -22,7 +24,6 @@ void ScreenStack::followOne(UINavigationController& stack, std::vector<Change>& 
     std::vector<int>& numbers = known[&stack];
     UIViewController& shown = *stack.topViewController();
     const auto depth = static_cast<std::size_t>(stack.depth());
-    const int before = numbers.empty() ? 0 : numbers.back();
     const bool isNew = numberOf(shown) == 0;
     while (numbers.size() > depth - (isNew ? 1 : 0)) {
         changes.push_back({Change::Kind::Closed, numbers.back(), {}});
@@ -30,13 +31,12 @@ void ScreenStack::followOne(UINavigationController& stack, std::vector<Change>& 
     }
     if (isNew) {
         shown.setProperty(numberProperty, ++lastNumber);
+        changes.push_back(
+            {Change::Kind::Opened, lastNumber, classOf(shown), numbers.empty() ? 0 : numbers.back()});
         numbers.push_back(lastNumber);
-        changes.push_back({Change::Kind::Opened, lastNumber, classOf(shown)});
     }
     if (numbers.size() != depth || numbers.back() != numberOf(shown))
         changes.push_back({Change::Kind::Closed, -1, "two screens opened at once"});
-    if (numbers.back() != before)
-        changes.push_back({Change::Kind::Appeared, numbers.back(), classOf(shown)});
 }
 
 UINavigationController& ScreenStack::innermost() const

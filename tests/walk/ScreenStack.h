@@ -14,6 +14,8 @@ public:
         enum class Kind { Opened, Appeared, Closed } kind;
         int screen;
         QString screenClass;
+        // The one below; 0: none.
+        int below = 0;
     };
 
     explicit ScreenStack(UINavigationController& outer)
@@ -42,4 +44,5 @@ private:
     UINavigationController& outer;
     QHash<UINavigationController*, std::vector<int>> known;
     int lastNumber = 0;
+    int lastTop = 0;
 };

@@ -5,7 +5,7 @@
 namespace {
 
 // How often a kind comes, in the order of the kinds.
-constexpr double weights[Step::kinds] = {30, 3, 12, 6, 2, 2, 0, 2, 2, 3, 3, 1, 2, 16, 10, 2, 1, 3, 4, 2, 1};
+constexpr double weights[Step::kinds] = {30, 3, 12, 6, 2, 2, 1, 2, 2, 3, 3, 1, 2, 16, 10, 2, 1, 3, 4, 2, 1};
 
 std::vector<double> weightsOf(std::mt19937& random)
 {

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "tests/walk/ModelCatalogue.h"
+
+// What leaves the program as text.
+
+// A list of movies as it is printed; a picture is one object replacement character. `title`: of the list's
+// group.
+[[nodiscard]] QString printedText(const std::vector<FilmPointer>& films, const std::optional<QString>& title);
+// A list of movies as it is shared.
+[[nodiscard]] QString sharedText(const std::vector<FilmPointer>& films);
+// The exchange file of the catalogue, but for the covers: their fields say "cover".
+[[nodiscard]] QString exchangeText(const ModelCatalogue& catalogue);

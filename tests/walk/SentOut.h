@@ -1,0 +1,27 @@
+#pragma once
+
+#include "tests/walk/WalkState.h"
+
+// Compares what leaves the program with what the model says: printed, copied and saved texts. Throws
+// WalkFailure.
+class SentOut
+{
+public:
+    explicit SentOut(WalkState& state)
+        : state(state)
+    {
+    }
+
+    // Looks at what has left since the last call.
+    void check();
+
+private:
+    void checkPrinted(const PrintJob& job);
+    void checkSaved(const RecordingDevice::SavedDocument& document);
+    void checkCopied(const QString& text);
+
+    WalkState& state;
+    std::size_t printed = 0;
+    std::size_t saved = 0;
+    QString copied;
+};

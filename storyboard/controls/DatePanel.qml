@@ -6,6 +6,7 @@ InputView {
     id: panel
 
     required property UIDatePicker picker
+    readonly property int style: picker !== null ? picker.preferredDatePickerStyle : UIDatePicker.Automatic
     readonly property Shades shades: picker !== null && picker.backgroundColor.valid ? Theme.paper : Theme.shades
 
     // A day or a month on or back; a year with the control key.
@@ -31,15 +32,17 @@ InputView {
         const values = {
             picker: panel.picker
         };
-        if (panel.picker.preferredDatePickerStyle === UIDatePicker.Inline)
+        if (panel.style === UIDatePicker.Inline)
             loader.setSource("MonthCalendar.qml", values);
-        else if (panel.picker.preferredDatePickerStyle === UIDatePicker.Compact)
+        else if (panel.style === UIDatePicker.Compact)
             loader.setSource("CompactDate.qml", values);
         else
             loader.setSource("DateWheels.qml", values);
     }
 
     implicitHeight: Math.max(picker !== null ? picker.height : 0, loader.implicitHeight)
+    // The style can change while the panel is open.
+    onStyleChanged: load()
     Component.onCompleted: load()
 
     Loader {

@@ -46,7 +46,7 @@ FocusScope {
     }
     onShownViewChanged: load()
     onFocusChanged: FirstResponder.panelFocused = focus
-    // Opened again it starts afresh: the same picker may prefer another style by then.
+    // Opened again it starts afresh.
     onOpennessChanged: if (openness === 0)
         panel.shownField = null
 

@@ -72,15 +72,18 @@ TEST_F(SettingsSceneTest, TheDateFieldComesWithItsSwitchAndThePickerInTheStyleLa
         {screen.inlineSwitch, {QAccessible::Button, "Next Month"}},
         {screen.wheelSwitch, {QAccessible::List, "Month"}},
     };
-    for (const auto& [toggle, sign] : styles) {
-        toggle->toggle();
-        screen.dateTextField->becomeFirstResponder();
-        const QAccessible::Role role = sign.first;
-        const QString& name = sign.second;
-        EXPECT_TRUE(QTest::qWaitFor([&] { return visible(role, name) != nullptr; })) << qPrintable(name);
-        screen.endEditing();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return visible(QAccessible::Button, "Done") == nullptr; }));
-    }
+    for (const bool staysOpen : {false, true})
+        for (const auto& [toggle, sign] : styles) {
+            toggle->toggle();
+            screen.dateTextField->becomeFirstResponder();
+            const QAccessible::Role role = sign.first;
+            const QString& name = sign.second;
+            EXPECT_TRUE(QTest::qWaitFor([&] { return visible(role, name) != nullptr; })) << qPrintable(name);
+            if (staysOpen)
+                continue;
+            screen.endEditing();
+            EXPECT_TRUE(QTest::qWaitFor([&] { return visible(QAccessible::Button, "Done") == nullptr; }));
+        }
 }
 
 using ReviewSceneTest = SceneTest;

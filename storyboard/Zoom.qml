@@ -87,27 +87,34 @@ Scene {
             }
         }
 
-        PinchHandler {
-            property real reached: 1
+        // One area for both gestures: of two handlers, one takes over the other's fingers at the place where they
+        // touch the window, and the picture jumps there.
+        MultiPointTouchArea {
+            property var last: []
 
-            target: null
-            onActiveChanged: reached = 1
-            onActiveScaleChanged: {
-                root.screen.pinchRec.recognize(activeScale / reached);
-                reached = activeScale;
+            // How far the fingers are from their middle, in pixels. Fingertips that touch count as this far apart.
+            function spread(fingers): real {
+                const x = fingers.reduce((sum, finger) => sum + finger.x, 0) / fingers.length;
+                const y = fingers.reduce((sum, finger) => sum + finger.y, 0) / fingers.length;
+                return Math.max(10, fingers.reduce((sum, finger) => sum + Math.hypot(finger.x - x, finger.y - y), 0) / fingers.length);
             }
-        }
 
-        DragHandler {
-            property vector2d reached
-
-            target: null
-            onActiveChanged: reached = Qt.vector2d(0, 0)
-            onActiveTranslationChanged: {
-                const way = activeTranslation.minus(reached);
-                root.screen.panRec.recognize(way.x, way.y);
-                reached = activeTranslation;
+            // A finger that comes or goes moves nothing.
+            function follow(fingers) {
+                const sameFingers = fingers.length === last.length && fingers.every((finger, index) => finger.id === last[index].id);
+                if (sameFingers && fingers.length === 1)
+                    root.screen.panRec.recognize(fingers[0].x - last[0].x, fingers[0].y - last[0].y);
+                else if (sameFingers && fingers.length > 1)
+                    root.screen.pinchRec.recognize(spread(fingers) / spread(last));
+                last = fingers;
             }
+
+            anchors.fill: parent
+            onTouchUpdated: touchPoints => follow(Array.from(touchPoints).filter(point => point.pressed).map(point => ({
+                            id: point.pointId,
+                            x: point.x,
+                            y: point.y
+                        })).sort((one, other) => one.id - other.id))
         }
 
         WheelHandler {

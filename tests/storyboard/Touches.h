@@ -49,46 +49,54 @@ class Fingers
 {
 public:
     Fingers(QWindow& window, QPoint origin)
-        : window(window)
-        , origin(origin)
+        : origin(origin)
+        , sequence(QTest::touchEvent(&window, QTest::createTouchDevice(), false))
     {
     }
 
     template <typename OnReload>
     void play(const Touches& touches, const OnReload& onReload)
     {
-        int now = 0;
-        for (const Touch& touch : touches) {
-            if (touch.milliseconds > now)
-                QTest::qWait(touch.milliseconds - now);
-            now = touch.milliseconds;
-            if (touch.phase == reload)
+        for (auto touch = touches.begin(); touch != touches.end();) {
+            const auto next = std::find_if(touch, touches.end(), [&](const Touch& later) {
+                return later.milliseconds != touch->milliseconds || later.phase == reload;
+            });
+            if (touch != touches.begin())
+                QTest::qWait(touch->milliseconds - std::prev(touch)->milliseconds);
+            if (next == touch) {
                 onReload();
-            else
-                send(touch);
+                ++touch;
+                continue;
+            }
+            send({touch, next});
+            touch = next;
         }
     }
 
 private:
-    void send(const Touch& touch)
+    // One event for what happens at one time.
+    void send(const Touches& touches)
     {
-        auto event = QTest::touchEvent(&window, device);
-        for (const int other : resting)
-            if (other != touch.finger)
-                event.stationary(other);
-        resting.insert(touch.finger);
-        if (touch.phase == down)
-            event.press(touch.finger, origin + touch.at);
-        else if (touch.phase == move)
-            event.move(touch.finger, origin + touch.at);
-        else
-            event.release(touch.finger, origin + touch.at);
-        if (touch.phase == up)
-            resting.erase(touch.finger);
+        for (const int finger : resting)
+            sequence.stationary(finger);
+        for (const Touch& touch : touches) {
+            const QPoint at = origin + touch.at;
+            if (touch.phase == down)
+                sequence.press(touch.finger, at);
+            else if (touch.phase == move)
+                sequence.move(touch.finger, at);
+            else
+                sequence.release(touch.finger, at);
+            if (touch.phase == up)
+                resting.erase(touch.finger);
+            else
+                resting.insert(touch.finger);
+        }
+        sequence.commit();
     }
 
-    QWindow& window;
     QPoint origin;
-    QPointingDevice* device = QTest::createTouchDevice();
+    // Remembers where resting fingers are.
+    QTest::QTouchEventSequence sequence;
     std::set<int> resting;
 };

@@ -1,6 +1,5 @@
 #include "browse/ViewController.h"
 #include "editing/AddMovieViewController.h"
-#include "editing/ZoomViewController.h"
 #include "tests/storyboard/SceneTest.h"
 
 #include <QPointer>
@@ -81,24 +80,6 @@ TEST_F(WindowTest, TypingIntoALongLineLosesNothingOfIt)
     press(Qt::Key_End);
     type("y");
     EXPECT_EQ(name.text(), QString(40'000, 'x') + 'y');
-}
-
-TEST_F(WindowTest, TwoFingersMakeTheCoverLarger)
-{
-    navigation().push(std::make_unique<ZoomViewController>());
-    waitUntilStill();
-    const auto& zoom = static_cast<ZoomViewController&>(*navigation().topViewController());
-    const double before = zoom.ZoomCollectionView->scale();
-    QPointingDevice* fingers = QTest::createTouchDevice();
-    constexpr QPoint middle(200, 400);
-    QTest::touchEvent(window.get(), fingers).press(0, middle).press(1, middle);
-    for (int apart = 10; apart <= 100; apart += 10) {
-        QTest::qWait(10);
-        QTest::touchEvent(window.get(), fingers)
-            .move(0, middle - QPoint(apart, 0))
-            .move(1, middle + QPoint(apart, 0));
-    }
-    EXPECT_GT(zoom.ZoomCollectionView->scale(), 1.5 * before);
 }
 
 TEST_F(WindowTest, EachTabKeepsItsOwnStack)

@@ -1,17 +1,8 @@
 #include "editing/ReferenceAddViewController.h"
 
 #include "editing/ReferenceFetch.h"
+#include "platform/foundation/Text.h"
 #include "platform/toolkit/UIAlertController.h"
-
-namespace {
-
-// The same characters are the same text, whether composed or not.
-QString inComposedForm(const QString& text)
-{
-    return text.normalized(QString::NormalizationForm_C);
-}
-
-} // namespace
 
 void ReferenceAddViewController::viewDidLoad()
 {
@@ -45,7 +36,7 @@ bool ReferenceAddViewController::isInList(const QString& text) const
 {
     return std::any_of(
         listOfValues.begin(), listOfValues.end(),
-        [wanted = inComposedForm(text)](const QString& known) { return inComposedForm(known) == wanted; });
+        [wanted = canonical(text)](const QString& known) { return canonical(known) == wanted; });
 }
 
 void ReferenceAddViewController::refuse(const QString& reason)

@@ -1,5 +1,7 @@
 #include "platform/foundation/LowerCaseSearch.h"
 
+#include "platform/foundation/Text.h"
+
 #include <string_view>
 
 namespace {
@@ -22,7 +24,7 @@ char loweredAscii(char byte)
 } // namespace
 
 LowerCaseSearch::LowerCaseSearch(const QString& text)
-    : wanted(text.toLower())
+    : wanted(canonical(text.toLower()))
 {
     const QByteArray utf8 = wanted.toUtf8();
     if (isAscii(utf8.toStdString()))
@@ -31,7 +33,7 @@ LowerCaseSearch::LowerCaseSearch(const QString& text)
 
 bool LowerCaseSearch::isIn(const QString& text) const
 {
-    return text.toLower().contains(wanted);
+    return canonical(text.toLower()).contains(wanted);
 }
 
 bool LowerCaseSearch::isIn(QUtf8StringView text) const
@@ -39,7 +41,7 @@ bool LowerCaseSearch::isIn(QUtf8StringView text) const
     const std::string_view bytes(text.data(), static_cast<std::size_t>(text.size()));
     if (!isAscii(bytes))
         return isIn(text.toString());
-    // Lower-casing keeps ASCII within ASCII.
+    // Lower-casing keeps ASCII within ASCII, and ASCII is its own canonical form.
     if (wantedAscii.empty() && !wanted.isEmpty())
         return false;
     lowered.resize(bytes.size());

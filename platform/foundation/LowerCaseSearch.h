@@ -4,8 +4,9 @@
 #include <QUtf8StringView>
 #include <string>
 
-// Looks for one text in very many, both lower-cased as a whole. Plain ASCII, which most texts are, is looked
-// through as it lies in memory.
+// Looks for one text in very many, both lower-cased as a whole. Canonically equivalent texts are found alike:
+// "é" is found as one character and as a letter with an accent, whichever way it is typed. Plain ASCII, which
+// most texts are, is looked through as it lies in memory.
 class LowerCaseSearch
 {
 public:

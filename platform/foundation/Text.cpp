@@ -37,6 +37,11 @@ std::optional<qint16> int16From(const QString& text)
     return ok ? std::optional(number) : std::nullopt;
 }
 
+QString canonical(const QString& text)
+{
+    return text.normalized(QString::NormalizationForm_C);
+}
+
 bool precedesByCodePoint(const QString& left, const QString& right)
 {
     const auto length = [](const QString& text) { return static_cast<int32_t>(text.size()); };

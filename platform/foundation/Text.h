@@ -10,5 +10,9 @@
 // else. Absent when it spells none, or one outside -32768 to 32767.
 [[nodiscard]] std::optional<qint16> int16From(const QString& text);
 
+// Returns `text` in the one form that canonically equivalent texts share: a letter and its accent are one
+// character where there is one for both.
+[[nodiscard]] QString canonical(const QString& text);
+
 // Whether `left` comes before `right`, character by character by code point: upper case before lower case.
 [[nodiscard]] bool precedesByCodePoint(const QString& left, const QString& right);

@@ -37,8 +37,13 @@ std::optional<qint16> int16From(const QString& text)
     return ok ? std::optional(number) : std::nullopt;
 }
 
+// Nothing below the first combining mark is part of another form. Texts are searched many at a time, and this
+// is many times faster than asking for each character.
 QString canonical(const QString& text)
 {
+    constexpr QChar firstMark = u'\u0300';
+    if (std::all_of(text.cbegin(), text.cend(), [](QChar character) { return character < firstMark; }))
+        return text;
     return text.normalized(QString::NormalizationForm_C);
 }
 

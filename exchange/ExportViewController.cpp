@@ -102,6 +102,7 @@ void ExportViewController::announceFile()
 void ExportViewController::SaveToFiles()
 {
     const QString path = temporaryFilePath(exchangeFileName);
+    // Ignored: the system reports no failure here. The sheet's activities then find no file and say so.
     (void)writeTemporaryFile(path, DataString.value_or(QString()));
     present(std::make_unique<UIActivityViewController>(std::vector<ActivityItem>{QUrl::fromLocalFile(path)},
                                                        activitiesOtherThanSaving()));

@@ -42,6 +42,7 @@ void PrintMoviesViewController::viewDidLoad()
     if (!request)
         return;
     MovieList = moviesOf(*request);
+    // Ignored: the screen stays open without movies, too. The call shows the alert.
     (void)hasMovies();
 }
 

@@ -92,12 +92,13 @@ Status NSManagedObjectContext::setRelaxed(bool relaxed)
     return set;
 }
 
-// A checkpoint brings the log to the disk before it copies it, and so makes the relaxed saves durable. Should
-// it fail, the next strict save does, for it brings the same log to the disk.
+// A checkpoint brings the log to the disk before it copies it, and so makes the relaxed saves durable.
 void NSManagedObjectContext::endRelaxed()
 {
     if (!isRelaxed || bulkScopes > 0 || transactionOpen)
         return;
-    if (setRelaxed(false))
-        (void)database->run("PRAGMA wal_checkpoint(FULL)").ok();
+    if (!setRelaxed(false))
+        return;
+    // Ignored: the next strict save brings the same log to the disk.
+    (void)database->run("PRAGMA wal_checkpoint(FULL)").ok();
 }

@@ -38,8 +38,10 @@ Status takeStepInTransaction(Database& database, const NSManagedObjectModel& mod
     auto taken = takeNextStep(database, model);
     if (taken)
         taken = database.run("COMMIT");
-    if (!taken && database.inTransaction())
-        (void)database.run("ROLLBACK").ok();
+    if (taken || !database.inTransaction())
+        return taken;
+    // Ignored: the step's own error is the one to report, and closing the database rolls back as well.
+    (void)database.run("ROLLBACK").ok();
     return taken;
 }
 

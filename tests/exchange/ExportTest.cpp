@@ -95,6 +95,46 @@ TEST_F(ExportTest, TheBarIsFullAfterTenMovies)
     EXPECT_TRUE(lines[1].contains("^801^")) << "in the order of the titles";
 }
 
+// A main queue that takes the latest work first: results come in as from threads that end in another order.
+class ReversedQueue final : public DispatchQueue
+{
+public:
+    void async(Work work) override { waiting.push_back(std::move(work)); }
+    void asyncAfter(std::chrono::milliseconds /*delay*/, Work work) override { async(std::move(work)); }
+
+    void runAll()
+    {
+        while (!waiting.empty()) {
+            const Work latest = std::move(waiting.back());
+            waiting.pop_back();
+            latest();
+        }
+    }
+
+private:
+    std::vector<Work> waiting;
+    const MainScope scope{*this};
+};
+
+TEST_F(ExportTest, RecordsStandInTheirOrderWhicheverAreReadyFirst)
+{
+    ExchangeBuilder::MovieRecords movies;
+    QString expected = exchangeOpening();
+    for (int i = 0; i < 300; ++i) {
+        movies.push_back(given({.name = QString::number(i)}));
+        expected += exchangeRecord(exchangeValues(*movies.back())).value();
+    }
+    ReversedQueue reversed;
+    ExchangeBuilder builder;
+    int records = 0;
+    QString built;
+    builder.start(
+        movies, [&records] { ++records; }, [&built](const Result<QString>& text) { built = text.value(); });
+    reversed.runAll();
+    EXPECT_EQ(built, expected);
+    EXPECT_EQ(records, 300);
+}
+
 TEST_F(ExportTest, SavesWhatWasMadeAndMailsWhatIsShown)
 {
     given({.name = QString::fromUtf8("Amélie"), .year = 2001});

@@ -105,6 +105,18 @@ TEST_F(LinuxPrinterTest, PrintsIntoTheFileThatTheDialogNames)
     }
 }
 
+TEST_F(LinuxPrinterTest, AFileThatCanNotBeWrittenIsNotDone)
+{
+    const QString folder = QDir::home().absoluteFilePath("folder");
+    ASSERT_TRUE(QDir().mkdir(folder));
+    print(picture());
+    ASSERT_TRUE(comesTrue([] { return shownDialog() != nullptr; }));
+    acceptAs(folder + "/printed.pdf");
+    ASSERT_TRUE(QDir().rmdir(folder));
+    ASSERT_TRUE(isTold());
+    EXPECT_EQ(told, QStringList("No such file or directory"));
+}
+
 TEST_F(LinuxPrinterTest, WithoutAnAnsweringQueueThePagesAreOfferedAsAFile)
 {
     for (const char* spooler : {"", "exit 1", "exit 0", "exec /bin/sleep 60"}) {

@@ -38,7 +38,7 @@ Scene {
         searchController: root.screen.searchController
         outlet: root.screen.tableView
         segue: "EditMovie"
-        emptyText: "No movies here any more."
+        emptyText: "No movies in this group."
         nothingFoundText: "No movie matches the search."
         delegate: MovieRow {
             table: root.screen.tableView

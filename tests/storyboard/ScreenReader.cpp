@@ -31,7 +31,7 @@ ScreenReader::ScreenReader(const QDBusConnection& session)
     const AccessibleReference registry{desktop.service, QDBusObjectPath("/org/a11y/atspi/registry")};
     for (const char* event :
          {"Object:StateChanged:", "Object:StateChanged:Focused", "Object:StateChanged:Showing"})
-        call(registry, "org.a11y.atspi.Registry", "RegisterEvent", {event});
+        std::ignore = call(registry, "org.a11y.atspi.Registry", "RegisterEvent", {event});
     bus.connect({}, {}, "org.a11y.atspi.Event.Object", "StateChanged", this, SLOT(noteChange()));
 }
 

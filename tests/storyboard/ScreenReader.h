@@ -46,17 +46,16 @@ public:
     // The number of changes since construction.
     [[nodiscard]] int changes() const { return changeCount; }
 
-private Q_SLOTS:
-    void noteChange() { ++changeCount; }
-
 private:
+    Q_SLOT void noteChange() { ++changeCount; }
+
     [[nodiscard]] std::optional<AccessibleReference> find(const AccessibleReference& from,
                                                           const QString& name, int depth) const;
     [[nodiscard]] QList<AccessibleReference> childrenOf(const AccessibleReference& parent) const;
     [[nodiscard]] QString nameOf(const AccessibleReference& object) const;
     [[nodiscard]] bool isShownButton(const AccessibleReference& object) const;
-    QDBusMessage call(const AccessibleReference& object, const QString& interface, const QString& method,
-                      const QVariantList& arguments = {}) const;
+    [[nodiscard]] QDBusMessage call(const AccessibleReference& object, const QString& interface,
+                                    const QString& method, const QVariantList& arguments = {}) const;
 
     QDBusConnection bus;
     int changeCount = 0;

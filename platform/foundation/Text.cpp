@@ -15,6 +15,11 @@ bool isAsciiDigit(QChar character)
     return character >= u'0' && character <= u'9';
 }
 
+bool isBelowCombiningMarks(QChar character)
+{
+    return character < u'\u0300';
+}
+
 } // namespace
 
 QString trimmingWhitespace(const QString& text)
@@ -41,8 +46,7 @@ std::optional<qint16> int16From(const QString& text)
 // is many times faster than asking for each character.
 QString canonical(const QString& text)
 {
-    constexpr QChar firstMark = u'\u0300';
-    if (std::all_of(text.cbegin(), text.cend(), [](QChar character) { return character < firstMark; }))
+    if (std::all_of(text.cbegin(), text.cend(), isBelowCombiningMarks))
         return text;
     return text.normalized(QString::NormalizationForm_C);
 }

@@ -21,10 +21,10 @@ constexpr int qualityScale = 100;
 struct RasterFormat
 {
     // As Qt names it.
-    const char* name;
+    const char* name = nullptr;
     // How its data begins; "?" stands for any byte.
     QByteArrayView start;
-    const char* fileSuffixes;
+    const char* fileSuffixes = nullptr;
 };
 
 using namespace std::string_view_literals;

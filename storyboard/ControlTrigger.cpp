@@ -14,6 +14,7 @@ QMetaMethod ControlTrigger::slot()
 
 void ControlTrigger::pull()
 {
-    if (screen.presentedViewController() == nullptr)
+    const UIViewController* presented = screen.presentedViewController();
+    if (presented == nullptr || !presented->isModal())
         act();
 }

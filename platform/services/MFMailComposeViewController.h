@@ -37,6 +37,7 @@ public:
     void addAttachmentFile(const QUrl& file);
 
     void viewWillAppear(bool animated) override;
+    [[nodiscard]] bool isModal() const override { return false; }
 
 private:
     void finish(MFMailComposeResult result);

@@ -16,6 +16,7 @@ public:
     explicit MFMessageComposeViewController(QString body);
 
     void viewWillAppear(bool animated) override;
+    [[nodiscard]] bool isModal() const override { return false; }
 
 private:
     void takeAway();

@@ -2,10 +2,25 @@
 
 #include "platform/foundation/DateFormatter.h"
 
+#include <QLocale>
+#include <QRegularExpression>
+
 UIDatePicker::UIDatePicker(QObject* parent)
     : UIView(parent)
     , moment(QDateTime::currentDateTimeUtc())
 {
+}
+
+QList<int> UIDatePicker::componentOrder()
+{
+    static const QRegularExpression quoted(QStringLiteral("'[^']*'"));
+    const QString format = QLocale().dateFormat(QLocale::ShortFormat).remove(quoted);
+    // By `Component`.
+    static const QString letters = QStringLiteral("yMd");
+    QList<int> order{0, 1, 2};
+    std::stable_sort(order.begin(), order.end(),
+                     [&](int a, int b) { return format.indexOf(letters[a]) < format.indexOf(letters[b]); });
+    return order;
 }
 
 void UIDatePicker::setSize(double width, double height)

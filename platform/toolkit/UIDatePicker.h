@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QDateTime>
+#include <QList>
 
 // A picker of a day. The time of day of `date` stays what it was when a day is picked. Days are those of the
 // Gregorian calendar in the local time zone.
@@ -17,6 +18,8 @@ class UIDatePicker : public UIView
     Q_PROPERTY(int day READ day NOTIFY changed FINAL)
     // In the user's locale, such as "Mar 5, 2021".
     Q_PROPERTY(QString dateText READ dateText NOTIFY changed FINAL)
+    // Of `Component`: year, month and day as the locale's short date format orders them, such as month, day, year.
+    Q_PROPERTY(QList<int> componentOrder READ componentOrder CONSTANT FINAL)
     Q_PROPERTY(Style preferredDatePickerStyle READ preferredDatePickerStyle NOTIFY changed FINAL)
     Q_PROPERTY(double width READ width NOTIFY changed FINAL)
     Q_PROPERTY(double height READ height NOTIFY changed FINAL)
@@ -24,6 +27,8 @@ class UIDatePicker : public UIView
 public:
     enum class Style { Automatic, Wheels, Compact, Inline };
     Q_ENUM(Style)
+    enum class Component { Year, Month, Day };
+    Q_ENUM(Component)
     enum class Mode { DateAndTime, Date };
 
     // Shows the current moment.
@@ -37,6 +42,8 @@ public:
     [[nodiscard]] int month() const { return localDay().month(); }
     [[nodiscard]] int day() const { return localDay().day(); }
     [[nodiscard]] QString dateText() const;
+    // Always all three.
+    [[nodiscard]] static QList<int> componentOrder();
 
     [[nodiscard]] Style preferredDatePickerStyle() const { return style; }
     void setPreferredDatePickerStyle(Style value) { assign(style, value); }

@@ -1,18 +1,28 @@
 import QtQuick
+import Marrowvale.Toolkit
 
 // Day, month and year, a wheel each, in the order of the user's locale.
 DateView {
     id: wheels
 
-    readonly property bool monthFirst: Qt.locale().dateFormat(Locale.ShortFormat).startsWith("M")
+    readonly property var order: picker !== null ? picker.componentOrder : []
+    readonly property var shares: ({
+            [UIDatePicker.Year]: 0.3,
+            [UIDatePicker.Month]: 0.46,
+            [UIDatePicker.Day]: 0.24
+        })
+
+    // The left edge of a component's wheel: those before it in the order stand to its left.
+    function leftEdge(component: int): real {
+        const before = wheels.order.slice(0, Math.max(0, wheels.order.indexOf(component)));
+        return wheels.width * before.reduce((sum, other) => sum + wheels.shares[other], 0);
+    }
 
     implicitHeight: 216
 
     Wheel {
-        id: month
-
-        x: wheels.monthFirst ? 0 : day.width
-        width: 0.46 * parent.width
+        x: wheels.leftEdge(UIDatePicker.Month)
+        width: wheels.shares[UIDatePicker.Month] * parent.width
         name: "Month"
         texts: Array.from({
             length: 12
@@ -24,10 +34,8 @@ DateView {
     }
 
     Wheel {
-        id: day
-
-        x: wheels.monthFirst ? month.width : 0
-        width: 0.24 * parent.width
+        x: wheels.leftEdge(UIDatePicker.Day)
+        width: wheels.shares[UIDatePicker.Day] * parent.width
         name: "Day"
         count: 31
         row: wheels.picker !== null ? wheels.picker.day - 1 : -1
@@ -41,8 +49,8 @@ DateView {
     }
 
     Wheel {
-        anchors.right: parent.right
-        width: 0.3 * parent.width
+        x: wheels.leftEdge(UIDatePicker.Year)
+        width: wheels.shares[UIDatePicker.Year] * parent.width
         name: "Year"
         count: 9999
         row: wheels.picker !== null ? wheels.picker.year - 1 : -1

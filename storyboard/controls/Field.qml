@@ -11,6 +11,8 @@ Item {
     property bool mandatory: false
     property bool digits: false
     property bool captionHidden: false
+    // Numbers and dates: Qt Quick would put them where the writing of the user's locale begins.
+    readonly property bool keepsLeft: digits || outlet.inputView as UIDatePicker !== null
     property Shades shades: Theme.shades
 
     implicitHeight: box.implicitHeight
@@ -36,6 +38,7 @@ Item {
             enabled: field.outlet.enabled
             label: field.label
             shades: field.shades
+            horizontalAlignment: field.keepsLeft ? TextInput.AlignLeft : undefined
             inputMethodHints: field.digits ? Qt.ImhDigitsOnly : Qt.ImhNone
 
             onTextEdited: link.typed()

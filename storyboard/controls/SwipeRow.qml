@@ -22,6 +22,8 @@ Item {
     // While a finger draws a row aside, no other takes part, and a second finger taps none.
     readonly property bool reacts: view === null || view.swipedRow === null || view.swipedRow === row
     property real pressedKey: 0
+    // The finger that is down has drawn it aside: a second one on the same row taps nothing.
+    property bool drawn: false
     property swipeActionsConfiguration actions
     property swipeActionsConfiguration noActions
 
@@ -136,13 +138,13 @@ Item {
             enabled: row.reacts
             onPressedChanged: if (pressed) {
                 row.view.keyboardUsed = false;
-                row.pressedKey = row.rowKey;
+                row.pressedKey = row.drawn ? 0 : row.rowKey;
             }
-            onTapped: if (row.pressedKey === row.rowKey && !drag.active) {
+            onTapped: if (row.pressedKey === row.rowKey) {
                 row.view.currentIndex = row.index;
                 row.activate();
             }
-            onLongPressed: if (row.pressedKey === row.rowKey && !drag.active)
+            onLongPressed: if (row.pressedKey === row.rowKey)
                 row.uncover()
         }
 
@@ -152,6 +154,11 @@ Item {
             acceptedButtons: Qt.RightButton
             enabled: row.reacts
             onTapped: row.uncover()
+        }
+
+        PointHandler {
+            onActiveChanged: if (!active)
+                row.drawn = false
         }
 
         DragHandler {
@@ -166,6 +173,7 @@ Item {
             onActiveChanged: {
                 row.view.swipedRow = active ? row : null;
                 if (active) {
+                    row.drawn = true;
                     row.takeActions();
                     row.view.keepOpen(row);
                     from = face.x;

@@ -48,6 +48,8 @@ std::optional<Consequence> Consequences::of(const Seen& control) const
     const QString screenClass = state.screens.topClass();
     if (control.inPopup)
         return inPopup(control.name);
+    if (isBehindDialog())
+        return Consequence();
     if (control.isRow()) {
         const auto row = positionOf(control);
         return row && state.uncoveredRow() != control.name ? choosing(*row) : Consequence();
@@ -67,6 +69,12 @@ std::optional<Consequence> Consequences::of(const Seen& control) const
     if (control.name == "Paste" && !state.program.device.pasteboardTwin->picture.isNull())
         return [this, screen] { state.model.showCover(screen, true); };
     return Consequence();
+}
+
+bool Consequences::isBehindDialog() const
+{
+    const UIViewController* presented = state.screens.presented();
+    return presented != nullptr && presented->isModal();
 }
 
 std::optional<Consequence> Consequences::inPopup(const QString& name) const
@@ -144,7 +152,7 @@ std::optional<Consequence> Consequences::ofKey(Qt::Key key, Qt::KeyboardModifier
 {
     const QString screenClass = state.screens.topClass();
     const bool isEditor = screenClass.startsWith("Add") || screenClass.startsWith("Edit");
-    const bool isFree = state.screens.presented() == nullptr;
+    const bool isFree = !isBehindDialog();
     if (key == Qt::Key_S && modifiers == Qt::ControlModifier && isEditor && isFree)
         return ofSaving();
     for (const Seen& seen : state.hand.look()) {

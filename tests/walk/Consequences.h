@@ -27,6 +27,8 @@ public:
     [[nodiscard]] static QQuickItem* rowAround(const Seen& control);
 
 private:
+    // The desktop's own dialogs are no popups of the window.
+    [[nodiscard]] bool isBehindDialog() const;
     [[nodiscard]] std::optional<Consequence> inPopup(const QString& name) const;
     [[nodiscard]] std::optional<Consequence> ofSaving() const;
     [[nodiscard]] Consequence ofSavingValue(const QString& screenClass, const FormTexts& form) const;

@@ -66,6 +66,10 @@ FocusScope {
             root.stack.release(gone[i]);
     }
 
+    function goBack() {
+        (root.shown as Scene)?.goBack();
+    }
+
     // What stands behind another tab leaves the keyboard where it is.
     function takeFocus() {
         if (root.visible && root.shown !== null)

@@ -19,6 +19,9 @@ Layout {
 
     controller: screen
 
+    // The tabs lie beside the stack whose scene would go back.
+    Keys.onEscapePressed: (stacks.itemAt(root.screen.selectedIndex) as NavigationStack).goBack()
+
     Shortcut {
         sequences: ["Ctrl+Tab", "Ctrl+PgDown"]
         enabled: root.activeFocus
@@ -32,6 +35,8 @@ Layout {
     }
 
     Repeater {
+        id: stacks
+
         model: root.screen.tabCount
 
         NavigationStack {

@@ -40,6 +40,11 @@ Rectangle {
     }
 
     TapHandler {
-        onDoubleTapped: view.triggered()
+        property bool isMeant: false
+
+        onPressedChanged: if (pressed)
+            isMeant = Modality.lets(view)
+        onDoubleTapped: if (isMeant)
+            view.triggered()
     }
 }

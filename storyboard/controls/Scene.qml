@@ -105,14 +105,15 @@ Layout {
         height: parent.height
 
         TapHandler {
-            onTapped: FirstResponder.current?.resignFirstResponder()
+            onTapped: if (Modality.lets(scene))
+                FirstResponder.current?.resignFirstResponder()
         }
 
         DragHandler {
             target: null
             yAxis.enabled: false
             enabled: scene.canGoBack || scene.homeButton !== null
-            onActiveTranslationChanged: if (active && activeTranslation.x > 60)
+            onActiveTranslationChanged: if (active && activeTranslation.x > 60 && Modality.lets(scene))
                 scene.goBack()
         }
     }

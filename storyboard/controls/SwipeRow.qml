@@ -138,7 +138,7 @@ Item {
             enabled: row.reacts
             onPressedChanged: if (pressed) {
                 row.view.keyboardUsed = false;
-                row.pressedKey = row.drawn ? 0 : row.rowKey;
+                row.pressedKey = row.drawn || !Modality.lets(row) ? 0 : row.rowKey;
             }
             onTapped: if (row.pressedKey === row.rowKey) {
                 row.view.currentIndex = row.index;
@@ -153,7 +153,8 @@ Item {
             acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
             acceptedButtons: Qt.RightButton
             enabled: row.reacts
-            onTapped: row.uncover()
+            onTapped: if (Modality.lets(row))
+                row.uncover()
         }
 
         PointHandler {
@@ -174,7 +175,10 @@ Item {
                 row.view.swipedRow = active ? row : null;
                 if (active) {
                     row.drawn = true;
-                    row.takeActions();
+                    if (Modality.lets(row))
+                        row.takeActions();
+                    else
+                        row.close();
                     row.view.keepOpen(row);
                     from = face.x;
                 } else if (face.x < -0.6 * row.width) {

@@ -47,7 +47,12 @@ Item {
     }
 
     TapHandler {
-        onTapped: tab.chosen()
+        property bool isMeant: false
+
+        onPressedChanged: if (pressed)
+            isMeant = Modality.lets(tab)
+        onTapped: if (isMeant)
+            tab.chosen()
     }
 
     HoverHandler {

@@ -171,6 +171,26 @@ TEST(TableViewTest, WhatWasBegunOnARowFollowsItsRecordUntilTheTableReloads)
     }
 }
 
+TEST(DatePickerTest, ComponentsStandInTheOrderOfTheLocale)
+{
+    using Component = UIDatePicker::Component;
+    const auto order = [](Component first, Component second, Component third) {
+        return QList<int>{static_cast<int>(first), static_cast<int>(second), static_cast<int>(third)};
+    };
+    for (const char* locale : {"ja_JP", "zh_CN", "ko_KR", "hu_HU", "lt_LT", "sv_SE"}) {
+        QLocale::setDefault(QLocale(locale));
+        EXPECT_EQ(UIDatePicker::componentOrder(), order(Component::Year, Component::Month, Component::Day))
+            << locale;
+    }
+    for (const char* locale : {"de_DE", "en_GB", "bg_BG"}) {
+        QLocale::setDefault(QLocale(locale));
+        EXPECT_EQ(UIDatePicker::componentOrder(), order(Component::Day, Component::Month, Component::Year))
+            << locale;
+    }
+    QLocale::setDefault(QLocale("en_US"));
+    EXPECT_EQ(UIDatePicker::componentOrder(), order(Component::Month, Component::Day, Component::Year));
+}
+
 TEST(DatePickerTest, PickingKeepsTheTimeAndClampsToTheMonth)
 {
     UIDatePicker picker;

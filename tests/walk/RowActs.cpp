@@ -15,6 +15,15 @@ void RowActs::uncovered(const Seen& row)
 
 QString RowActs::perform(const Step& step)
 {
+    const int screen = state.screens.topNumber();
+    const QString done = draw(step);
+    if (state.screens.topNumber() != screen)
+        throw WalkFailure("It opens " + state.screens.topClass() + ": " + done);
+    return done;
+}
+
+QString RowActs::draw(const Step& step)
+{
     using Kind = Step::Kind;
     const std::vector<Seen> rows = state.hand.rowsInSight();
     if (rows.empty() || state.list() == nullptr)

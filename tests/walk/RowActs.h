@@ -16,6 +16,7 @@ public:
     [[nodiscard]] QString perform(const Step& step);
 
 private:
+    [[nodiscard]] QString draw(const Step& step);
     [[nodiscard]] QString drawRow(const Seen& row, double part, const QString& name);
     [[nodiscard]] QString tapWhileDrawing(const Seen& row, const Seen& other);
     void uncovered(const Seen& row);

@@ -11,7 +11,11 @@ QString Taps::act(const Seen& control, Hand::Way way, bool twice)
         state.hand.pass(60);
         state.hand.tap(control, way);
     }
+    const int screen = state.screens.topNumber();
     state.conclude(*consequence);
+    // Only the alert after an import leads somewhere.
+    if (control.inPopup && control.name != "OK" && state.screens.topNumber() != screen)
+        throw WalkFailure("A tap on " + control.shortName() + " opens " + state.screens.topClass());
     return QString("tap %1%2 by %3")
         .arg(control.shortName(), twice ? " twice" : "", ways[static_cast<int>(way)]);
 }

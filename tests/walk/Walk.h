@@ -10,9 +10,10 @@ class Walk
 public:
     explicit Walk(unsigned seed);
 
-    // Does the step, then checks everything that must hold. Throws WalkFailure. Returns what was done; empty:
-    // nothing.
-    QString take(const Step& step);
+    // Does the step. Returns what was done; empty: nothing.
+    [[nodiscard]] QString take(const Step& step);
+    // Checks everything that must hold after a step. Throws WalkFailure.
+    void check() { invariants.check(); }
     // Escape leads home, from wherever it is, within ten steps.
     void goHome();
 

@@ -58,7 +58,10 @@ void walk(unsigned seed, const std::vector<Step>& steps, const Report& report)
         for (const Step& step : steps) {
             report.line(begunMark);
             alarm(longestStep);
-            report.line(doneMark, walk.take(step));
+            const QString done = walk.take(step);
+            report.line(doneMark, done);
+            if (!done.isEmpty())
+                walk.check();
         }
         walk.goHome();
     } catch (const WalkFailure& failure) {

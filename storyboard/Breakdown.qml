@@ -26,7 +26,7 @@ Scene {
             title: "Share"
             image: "square.and.arrow.up"
             outlet: root.screen.shareOutlet
-            enabled: root.screen.tableView.count > 0
+            enabled: available && root.screen.tableView.count > 0
             action: "shareButtonClicked"
         }
     ]

@@ -17,7 +17,7 @@ Pressable {
         anchors.margins: 4
         radius: 12
         color: Theme.shades.accent
-        opacity: button.down ? 0.24 : button.hovered || button.activeFocus ? 0.12 : 0
+        opacity: button.down ? 0.24 : button.hovered || button.activeFocus ? 0.1 : 0
     }
 
     Text {

@@ -15,7 +15,7 @@ BarButton {
 
     width: isSpace ? spaceWidth : naturalWidth
     outlet: item
-    enabled: !isSpace
+    enabled: available && !isSpace
     onTriggered: item.tap()
 
     Accessible.ignored: isSpace

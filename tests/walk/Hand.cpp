@@ -1,6 +1,6 @@
 #include "tests/walk/Hand.h"
 
-#include "tests/walk/FakeClock.h"
+#include "tour/FakeClock.h"
 #include "tour/AccessibleTree.h"
 
 #include <QtTest>

@@ -1,6 +1,6 @@
 #include "tests/walk/WalkProcess.h"
 
-#include "tests/walk/FakeClock.h"
+#include "tour/FakeClock.h"
 #include "tests/walk/Walk.h"
 #include "tour/AccessibleListener.h"
 

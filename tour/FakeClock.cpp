@@ -1,4 +1,4 @@
-#include "tests/walk/FakeClock.h"
+#include "tour/FakeClock.h"
 
 #include <atomic>
 #include <ctime>

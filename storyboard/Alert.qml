@@ -20,7 +20,7 @@ T.Popup {
     }
 
     anchors.centerIn: T.Overlay.overlay
-    width: Math.min(320, T.Overlay.overlay.width - 48)
+    width: Math.min(320, (T.Overlay.overlay?.width ?? 368) - 48)
     height: implicitContentHeight
     modal: true
     focus: true

@@ -2,25 +2,12 @@
 #include "tour/Chapters.h"
 #include "tour/StoreFile.h"
 #include "tour/Tour.h"
+#include "tour/TourCatalogue.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QPainter>
 
 namespace {
-
-QImage paintedCover()
-{
-    QImage cover(300, 400, QImage::Format_RGB32);
-    QPainter painter(&cover);
-    QLinearGradient dusk(0, 0, 0, cover.height());
-    dusk.setColorAt(0, QColor(30, 40, 90));
-    dusk.setColorAt(1, QColor(240, 140, 60));
-    painter.fillRect(cover.rect(), dusk);
-    painter.setBrush(QColor(255, 230, 170));
-    painter.drawEllipse(QPoint(150, 260), 70, 70);
-    return cover;
-}
 
 // As the form writes a date.
 QString fullText(const QDate& date)
@@ -135,7 +122,7 @@ void completeForm(Tour& tour)
     visitor.settle();
 
     tour.step("The cover is pasted");
-    QGuiApplication::clipboard()->setImage(paintedCover());
+    QGuiApplication::clipboard()->setImage(TourCatalogue::paintedCover());
     visitor.reach(button("Paste"));
     visitor.tap(button("Paste"));
     tour.picture("form-above");

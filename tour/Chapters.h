@@ -1,18 +1,24 @@
 #pragma once
 
-#include <QString>
-
 class Tour;
 
-// The tour's story, in this order: each chapter begins and ends at the home menu and builds on what the ones
-// before left in the catalogue.
+// A chapter of the tour: it begins at the home menu, in a home and with a catalogue of its own.
+struct Chapter
+{
+    enum class Catalogue { Empty, OneMovie, AllMovies };
+
+    const char* name;
+    // What the catalogue holds before: nothing; "The Lighthouse of Marrowvale"; that and the exchange file's.
+    Catalogue catalogue;
+    void (*play)(Tour& tour);
+};
 
 // The menu of a fresh installation, and what the reference lists start with.
 void seeFirstLaunch(Tour& tour);
 // One movie, entered in every way that the form offers.
 void addMovie(Tour& tour);
-// A file that is none of ours, then `exchangeFile`.
-void importMovies(Tour& tour, const QString& exchangeFile);
+// A file that is none of ours, then the exchange file.
+void importMovies(Tour& tour);
 // The four orders both ways, the search, deleting.
 void browseMovies(Tour& tour);
 // A movie found by the search, its cover, and a change of it.
@@ -29,3 +35,17 @@ void groupMovies(Tour& tour);
 void sendOut(Tour& tour);
 // The list, by keyboard alone.
 void lookAround(Tour& tour);
+
+inline const Chapter chapters[] = {
+    {"first-launch", Chapter::Catalogue::Empty, seeFirstLaunch},
+    {"add-movie", Chapter::Catalogue::Empty, addMovie},
+    {"import", Chapter::Catalogue::OneMovie, importMovies},
+    {"browse", Chapter::Catalogue::AllMovies, browseMovies},
+    {"share", Chapter::Catalogue::OneMovie, shareMovies},
+    {"edit-movie", Chapter::Catalogue::OneMovie, editMovie},
+    {"settings", Chapter::Catalogue::Empty, changeSettings},
+    {"reference-lists", Chapter::Catalogue::OneMovie, keepReferenceLists},
+    {"groups", Chapter::Catalogue::AllMovies, groupMovies},
+    {"send-out", Chapter::Catalogue::AllMovies, sendOut},
+    {"keyboard", Chapter::Catalogue::OneMovie, lookAround},
+};

@@ -40,6 +40,11 @@ void FakeClock::start()
     milliseconds = 1;
 }
 
+bool FakeClock::isStarted()
+{
+    return milliseconds != 0;
+}
+
 void FakeClock::advance(std::chrono::milliseconds step)
 {
     milliseconds += step.count();

@@ -8,6 +8,7 @@ namespace FakeClock {
 
 // Calendar time begins at noon (UTC) of 1 June 2026.
 void start();
+[[nodiscard]] bool isStarted();
 void advance(std::chrono::milliseconds step);
 
 } // namespace FakeClock

@@ -57,8 +57,9 @@ QString writeLetter(const TourHome& home)
 
 } // namespace
 
-void importMovies(Tour& tour, const QString& exchangeFile)
+void importMovies(Tour& tour)
 {
+    const QString& exchangeFile = tour.exchangeFile;
     Visitor& visitor = tour.visitor;
     const int before = storedMovies();
 

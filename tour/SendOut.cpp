@@ -37,6 +37,7 @@ void rateAndShare(Tour& tour)
     tour.choose("Rate/Share");
     visitor.expect(heading("Rate/Share"));
     tour.picture("rate-share");
+    tour.device.setCanSendText(true);
     visitor.tap(row("Share the Web Page"));
     visitor.expect(choice("Copy"));
     tour.picture("share-web-page");

@@ -2,9 +2,8 @@
 
 #include "platform/foundation/Console.h"
 #include "tour/Complaints.h"
+#include "tour/SceneProperties.h"
 #include "tour/TourError.h"
-
-#include <QDir>
 
 namespace {
 
@@ -13,12 +12,14 @@ constexpr QSize tablet(820, 1180);
 
 } // namespace
 
-Tour::Tour(QQuickView& window, TourDevice& device, const TourHome& home, QString outputFolder)
+Tour::Tour(QQuickView& window, TourDevice& device, const TourHome& home, QString exchangeFile,
+           QString pictureStart)
     : visitor(window)
     , device(device)
     , home(home)
+    , exchangeFile(std::move(exchangeFile))
     , window(window)
-    , outputFolder(std::move(outputFolder))
+    , pictureStart(std::move(pictureStart))
 {
     window.resize(phone);
 }
@@ -41,12 +42,15 @@ void Tour::keep(const QString& screen, bool dark, const QSize& size)
 {
     device.setDark(dark);
     window.resize(size);
-    const QString name = QString("%1-%2-%3-%4.png")
+    const QString name = QString("%1-%2-%3-%4-%5.png")
+                             .arg(pictureStart)
                              .arg(pictures, 2, 10, QChar('0'))
                              .arg(screen, dark ? "dark" : "light")
                              .arg(size.width());
-    if (!visitor.look().save(QDir(outputFolder).filePath(name)))
+    if (!visitor.look().save(name))
         throw TourError("The picture " + name + " cannot be kept");
+    if (const QStringList faults = SceneProperties::faultsIn(window); !faults.isEmpty())
+        throw TourError("The picture " + name + " shows faults:\n" + faults.join('\n'));
 }
 
 void Tour::choose(const QString& entry)

@@ -48,9 +48,11 @@ struct TourDevice::PaperlessPrinter : Printer
 {
     void print(const PrintJob& /*job*/, Told told) override
     {
+        ++jobs;
         DispatchQueue::main().async([told = std::move(told)] { told(true, std::nullopt); });
     }
     void cancelAsking() override {}
+    int jobs = 0;
 };
 
 struct TourDevice::StillCamera : Camera
@@ -89,10 +91,10 @@ TourDevice::TourDevice(const QString& folder)
     : documents(replaceService<SelfAnsweringDocuments>(device->documents))
     , textMessages(replaceService<ToldTextMessages>(device->textMessages))
     , interfaceStyle(replaceService<ToldInterfaceStyle>(device->interfaceStyle))
+    , printer(replaceService<PaperlessPrinter>(device->printer))
 {
     documents->folder = folder;
     replaceService<DeafAddressOpener>(device->addressOpener);
-    replaceService<PaperlessPrinter>(device->printer);
     replaceService<StillCamera>(device->camera);
     replaceService<SilentReviewPrompt>(device->reviewPrompt);
 }
@@ -111,4 +113,9 @@ void TourDevice::setDark(bool dark)
 void TourDevice::setCanSendText(bool can)
 {
     textMessages->can = can;
+}
+
+int TourDevice::printedJobs() const
+{
+    return printer->jobs;
 }

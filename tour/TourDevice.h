@@ -16,6 +16,8 @@ public:
     // False until set.
     void setDark(bool dark);
     void setCanSendText(bool can);
+    // How often something was sent to the printer.
+    [[nodiscard]] int printedJobs() const;
 
 private:
     struct SelfAnsweringDocuments;
@@ -30,4 +32,5 @@ private:
     SelfAnsweringDocuments* documents;
     ToldTextMessages* textMessages;
     ToldInterfaceStyle* interfaceStyle;
+    PaperlessPrinter* printer;
 };

@@ -1,15 +1,19 @@
 #include "tour/Visitor.h"
 
 #include "tour/AccessibleTree.h"
+#include "tour/FakeClock.h"
 #include "tour/TourError.h"
 
 #include <QQuickItem>
+#include <QThread>
 #include <QtTest>
 
 namespace {
 
-constexpr int longestWait = 10'000;
+// Milliseconds.
+constexpr int frame = 20;
 constexpr int glance = 60;
+constexpr int longestWait = 200'000;
 
 QString describe(const Control& control)
 {
@@ -68,8 +72,24 @@ std::vector<QAccessibleInterface*> Visitor::inSight(const Control& control)
 
 void Visitor::expectThat(const QString& what, const std::function<bool()>& holds)
 {
-    if (!QTest::qWaitFor(holds, longestWait))
-        throw TourError(what);
+    for (int waited = 0; !holds(); waited += frame) {
+        if (waited >= longestWait)
+            throw TourError(what);
+        pass(frame);
+    }
+}
+
+// Other threads work in real time: each frame leaves them some.
+void Visitor::pass(int milliseconds)
+{
+    if (!FakeClock::isStarted())
+        return QTest::qWait(milliseconds);
+    for (int left = milliseconds; left > 0; left -= frame) {
+        FakeClock::advance(std::chrono::milliseconds(frame));
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QThread::msleep(1);
+    }
 }
 
 void Visitor::expect(const Control& control)
@@ -172,10 +192,10 @@ void Visitor::drag(const QPoint& from, const QPoint& to)
     constexpr int moves = 12;
     QTest::touchEvent(&window, finger).press(0, from);
     for (int move = 1; move <= moves; ++move) {
-        QTest::qWait(10);
+        pass(frame);
         QTest::touchEvent(&window, finger).move(0, from + (to - from) * move / moves);
     }
-    QTest::qWait(120);
+    pass(6 * frame);
     QTest::touchEvent(&window, finger).release(0, to);
 }
 
@@ -194,7 +214,7 @@ void Visitor::settle()
 {
     QImage before;
     expectThat("The window does not come to rest", [&] {
-        QTest::qWait(glance);
+        pass(glance);
         const QImage now = window.grabWindow();
         return std::exchange(before, now) == now;
     });

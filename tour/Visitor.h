@@ -9,7 +9,8 @@ class QPointingDevice;
 
 // Someone in front of the window, who knows only what can be seen and touched: finds controls by role and
 // name, uses mouse, finger and keyboard, and waits for what moves to come to rest. What isn't so after some
-// seconds is a TourError.
+// minutes is a TourError. Where the fake clock runs, time passes only while the visitor waits, as fast as the
+// machine can.
 class Visitor
 {
 public:
@@ -49,6 +50,7 @@ private:
     // The part of it that nothing cuts off, in the window; empty: none.
     [[nodiscard]] QRect visiblePart(QAccessibleInterface& seen) const;
     [[nodiscard]] bool isBelowSight(const Control& control);
+    void pass(int milliseconds);
     void drag(const QPoint& from, const QPoint& to);
 
     QQuickView& window;

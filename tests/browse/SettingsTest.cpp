@@ -100,21 +100,6 @@ TEST_F(SettingsTest, TheFirstOpeningStoresThatThereIsNoDefaultDateAndNothingElse
     EXPECT_EQ(screen.dateTextField->layer(), (Layer{.cornerRadius = 5, .borderWidth = 1}));
 }
 
-TEST_F(SettingsTest, AStoredDefaultDateIsShownWhileItIsOn)
-{
-    setting().setBool(true, useDefaultDate);
-    setting().setObject("Mar 5, 2021", defaultDate);
-    for (const bool on : {true, false}) {
-        setting().setBool(on, useDefaultDate);
-        const DefaultsViewController& screen = opened();
-        EXPECT_EQ(screen.DefaultDateSwitch->isOn(), on);
-        EXPECT_EQ(screen.DefaultDateLabel->isHidden(), !on);
-        EXPECT_EQ(screen.dateTextField->isHidden(), !on);
-        EXPECT_EQ(screen.dateTextField->text(), on ? "Mar 5, 2021" : "");
-        EXPECT_EQ(stored(useDefaultDate), QVariant(on));
-    }
-}
-
 TEST_F(SettingsTest, TurningTheDefaultDateOffEmptiesIt)
 {
     DefaultsViewController& screen = openedAtDate("Mar 5, 2021");
@@ -191,20 +176,6 @@ TEST_F(SettingsTest, TheSystemsVersionDecidesWhichStoredStyleCounts)
     }
 }
 
-TEST_F(SettingsTest, AStyleThatTheSystemLacksIsStoredButNotShownByThePicker)
-{
-    for (const auto& [version, style] :
-         {std::pair{13.0, Style::Automatic}, {13.4, Style::Wheels}, {14.0, Style::Compact}}) {
-        device.systemVersion = version;
-        DefaultsViewController& screen = opened();
-        screen.wheelSwitch->toggle();
-        screen.inlineSwitch->toggle();
-        screen.compactSwitch->toggle();
-        EXPECT_EQ(screen.datePickerView->preferredDatePickerStyle(), style) << version;
-        EXPECT_EQ(keysOn(), QStringList(compact));
-    }
-}
-
 TEST_F(SettingsTest, WithoutAChoiceOfStylesOnlyTheInlineSwitchShowsUntilItBringsTheOthersBack)
 {
     device.systemVersion = 13.3;
@@ -260,29 +231,6 @@ TEST_F(SettingsTest, APickedDayIsStoredAsShownAndEndsEditing)
         screen.datePickerView->setDate(QDateTime(QDate(2020, 3, 1), QTime(12, 0)));
         tapBar(screen, "Done");
     }
-}
-
-TEST_F(SettingsTest, TodayIsStoredAndThePickerStaysWhereItIs)
-{
-    DefaultsViewController& screen = openedAtDate("Mar 5, 2021");
-    const QDate before = QDate::currentDate();
-    tapBar(screen, "Today");
-    const QDate after = QDate::currentDate();
-    const auto text = [](const QDate& day) { return QLocale().toString(day, "MMM d, yyyy"); };
-    EXPECT_TRUE(screen.dateTextField->text() == text(before) || screen.dateTextField->text() == text(after));
-    EXPECT_EQ(stored(defaultDate), QVariant(screen.dateTextField->text()));
-    EXPECT_EQ(pickedDay(screen), QDate(2021, 3, 5));
-    EXPECT_FALSE(screen.dateTextField->isEditing());
-}
-
-TEST_F(SettingsTest, OnlyTheUserTurnsASwitchIntoAnAction)
-{
-    DefaultsViewController& screen = opened();
-    screen.wheelSwitch->setOn(true);
-    EXPECT_EQ(stored(wheel), std::nullopt);
-    screen.compactSwitch->setEnabled(false);
-    screen.compactSwitch->toggle();
-    EXPECT_EQ(switchesOn(screen), QStringList(wheel));
 }
 
 } // namespace

@@ -133,41 +133,4 @@ TEST_F(DateEntryTest, TodayShowsTodayButStoresThePickersDay)
     EXPECT_EQ(storedDay(*storedMovie()), march5);
 }
 
-TEST_F(DateEntryTest, EnteringAgainShowsTodayButKeepsTheDayToStoreUntilThePickerMoves)
-{
-    AddMovieViewController& screen = enteringDate();
-    const QString today = screen.DateWatchedTextField->text();
-    screen.DateWatchedDatePicker->pick(2021, 3, 5);
-    screen.dismissKeyboard();
-    screen.DateWatchedTextField->becomeFirstResponder();
-    EXPECT_EQ(screen.DateWatchedTextField->text(), today);
-    screen.dismissKeyboard();
-    EXPECT_FALSE(screen.DateWatchedTextField->isEditing());
-    screen.SaveButtonClicked();
-    EXPECT_EQ(storedDay(*storedMovie()), march5);
-}
-
-// A store whose new movies lack the date that the entry relies on.
-class UndatedEntry : public AddMovieViewController
-{
-    std::shared_ptr<Movies> recordToSave() override
-    {
-        const auto movie = AddMovieViewController::recordToSave();
-        movie->setDateWatched(std::nullopt);
-        return movie;
-    }
-};
-
-TEST_F(DateEntryTest, ARecordWithoutADateEndsTheProgramOnceTheFieldIsFilled)
-{
-    UndatedEntry screen;
-    screen.MovieNameTextField->setText("Alien");
-    screen.YearReleasedTextField->setText("1979");
-    screen.GenreTextField->setText("Horror");
-    screen.SaveButtonClicked();
-    EXPECT_EQ(storedMovie()->dateWatched(), std::nullopt);
-    screen.DateWatchedTextField->setText("any");
-    EXPECT_DEATH(screen.SaveButtonClicked(), "Fatal error: A new movie has no default date watched");
-}
-
 } // namespace

@@ -14,12 +14,10 @@ struct ReferenceListMember
 {
     const char* entity;
     const char* attribute;
-    const char* movieAttribute;
     const char* header;
     const char* emptyMessage;
     const char* singular;
     const char* editAction;
-    QString SharedValues::*chosen;
     std::function<std::unique_ptr<ReferenceListTableViewController>()> list;
     std::function<std::unique_ptr<ReferenceAddViewController>()> add;
     std::function<std::unique_ptr<ReferenceEditViewController>()> edit;
@@ -79,24 +77,6 @@ protected:
         EXPECT_EQ(screen.valueField->text(), text);
         navigation.pop();
         return alert->message();
-    }
-
-    // Taps that row, changes the text and saves.
-    void rename(int row, const QString& text)
-    {
-        list().tableView()->select(row);
-        auto& screen = opened(member.edit());
-        screen.valueField->setText(text);
-        press(screen, member.editAction);
-        EXPECT_EQ(navigation.topViewController(), &list());
-    }
-
-    QStringList shown()
-    {
-        QStringList texts;
-        for (int row = 0; row < list().tableView()->rowCount(); ++row)
-            texts.append(list().cellForRowAt({row}).value<ReferenceListTableViewCell>().valueLabel.text);
-        return texts;
     }
 
     static std::unique_ptr<Database> otherConnection()

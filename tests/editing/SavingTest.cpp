@@ -1,55 +1,9 @@
-#include "model/MarrowvaleModel.h"
-#include "platform/foundation/Calendar.h"
 #include "tests/editing/AddMovieTest.h"
 #include "tests/support/FullDisk.h"
 
 namespace {
 
 using SavingTest = AddMovieTest;
-
-TEST_F(SavingTest, TextsAreStoredTrimmedOfBlanksAndTabsButTheProviderAsItStands)
-{
-    AddMovieViewController& screen = opened();
-    type(*screen.MovieNameTextField, " \tAlien ");
-    type(*screen.WatchedOnTextField, "  Hulu\t");
-    type(*screen.YearReleasedTextField, "1979");
-    type(*screen.RunTimeTextField, "117");
-    type(*screen.GenreTextField, "\tHorror");
-    type(*screen.RatingTextField, " R ");
-    type(*screen.ActorsTextView, "  Weaver\n\tHolm \n");
-    type(*screen.DirectorsTextView, "\tScott ");
-    type(*screen.ProducersTextView, " Carroll\t ");
-    type(*screen.NotesTextView, " scary! ");
-    screen.SaveButtonClicked();
-
-    const auto movie = storedMovie();
-    ASSERT_NE(movie, nullptr);
-    EXPECT_EQ(movie->movieName(), QString("Alien"));
-    EXPECT_EQ(movie->provider(), QString("  Hulu\t"));
-    EXPECT_EQ(movie->yearReleased(), 1979);
-    EXPECT_EQ(movie->runTime(), 117);
-    EXPECT_EQ(movie->genre(), QString("Horror"));
-    EXPECT_EQ(movie->rating(), QString("R"));
-    EXPECT_EQ(movie->actors(), QString("Weaver\n\tHolm \n")) << "line breaks are no blanks";
-    EXPECT_EQ(movie->directors(), QString("Scott"));
-    EXPECT_EQ(movie->producers(), QString("Carroll"));
-    EXPECT_EQ(movie->notes(), QString("scary!"));
-}
-
-TEST_F(SavingTest, EmptyFieldsAreLeftUnsetExceptTheRating)
-{
-    openedAndFilled().SaveButtonClicked();
-    const auto movie = storedMovie();
-    ASSERT_NE(movie, nullptr);
-    EXPECT_EQ(movie->rating(), QString("")) << "empty, not absent";
-    for (const auto& text :
-         {movie->provider(), movie->actors(), movie->directors(), movie->producers(), movie->notes()})
-        EXPECT_EQ(text, std::nullopt);
-    EXPECT_EQ(movie->frontCover(), std::nullopt);
-    EXPECT_EQ(movie->runTime(), 0);
-    EXPECT_EQ(movie->dateWatched(), MarrowvaleModel::defaultWatchDate());
-    EXPECT_EQ(movie->wYear(), 0);
-}
 
 TEST_F(SavingTest, WithoutARequiredFieldNothingIsSavedAndNothingLost)
 {
@@ -74,23 +28,6 @@ TEST_F(SavingTest, WithoutARequiredFieldNothingIsSavedAndNothingLost)
     EXPECT_EQ(storedMovie()->movieName(), QString("")) << "blanks are not nothing";
 }
 
-TEST_F(SavingTest, EveryWholeNumberOf16BitsIsStored)
-{
-    const std::vector<std::pair<QString, qint16>> cases{
-        {"1", 1}, {"12345", 12345}, {"007", 7}, {"+1979", 1979}, {"-32768", -32768}, {"32767", 32767}};
-    for (const auto& [text, number] : cases) {
-        AddMovieViewController& screen = openedAndFilled();
-        screen.YearReleasedTextField->setText(text);
-        screen.RunTimeTextField->setText(text);
-        screen.SaveButtonClicked();
-        const auto movie = storedMovie();
-        EXPECT_EQ(movie->yearReleased(), number) << qPrintable(text);
-        EXPECT_EQ(movie->runTime(), number) << qPrintable(text);
-        context().deleteObject(movie);
-        EXPECT_TRUE(context().save().ok());
-    }
-}
-
 TEST_F(SavingTest, AnyOtherNumberEndsTheProgram)
 {
     AddMovieViewController& screen = openedAndFilled();
@@ -102,30 +39,6 @@ TEST_F(SavingTest, AnyOtherNumberEndsTheProgram)
     type(*screen.RunTimeTextField, "1.5");
     EXPECT_DEATH(screen.SaveButtonClicked(), "Fatal error: \"1\\.5\" is not a whole number");
     EXPECT_TRUE(storedMovies().empty());
-}
-
-TEST_F(SavingTest, TheSameMovieMayBeEnteredTwice)
-{
-    AddMovieViewController& screen = openedAndFilled();
-    EXPECT_EQ(screen.managedObjectContext, nullptr);
-    screen.SaveButtonClicked();
-    EXPECT_EQ(screen.managedObjectContext, &context());
-    screen.SaveButtonClicked();
-    EXPECT_EQ(storedMovies().size(), 2U);
-}
-
-TEST_F(SavingTest, OnlyTheMenuAndTheListAreReturnedTo)
-{
-    const std::vector<std::pair<QString, QStringList>> cases{
-        {"MainList", {"unwindToList"}}, {"MainMenu", {"unwindToMenu"}}, {"GenreBreakdown", {}}, {"", {}}};
-    for (const auto& [origin, segues] : cases) {
-        storyboard.taken.clear();
-        AddMovieViewController& screen = openedAndFilled();
-        shared().ReturnScreen = origin;
-        screen.SaveButtonClicked();
-        EXPECT_EQ(storyboard.taken, segues) << qPrintable(origin);
-        EXPECT_EQ(screen.MovieNameTextField->text(), "Alien");
-    }
 }
 
 TEST_F(SavingTest, AFailedSaveIsToldOnTheConsoleAndTheScreenLeaves)

@@ -6,8 +6,6 @@
 #include "tests/support/FullDisk.h"
 #include "tests/support/PlainStoryboard.h"
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QFile>
 
 namespace {
@@ -86,13 +84,9 @@ TEST_F(ExportTest, TheBarIsFullAfterTenMovies)
     create();
     EXPECT_DOUBLE_EQ(screen().ProgressView->progress(), 0.3);
     for (int i = 0; i < 200; ++i)
-        context().insert<Movies>()->setMovieName(QString::number(1000 - i));
-    navigation.push(std::make_unique<ExportViewController>());
+        given({.name = QString::number(i)});
     create();
     EXPECT_DOUBLE_EQ(screen().ProgressView->progress(), 1);
-    const QStringList lines = screen().DataString->split("\n\n");
-    EXPECT_EQ(lines.size(), 204) << "records come in several batches";
-    EXPECT_TRUE(lines[1].contains("^801^")) << "in the order of the titles";
 }
 
 // A main queue that takes the latest work first: results come in as from threads that end in another order.
@@ -166,16 +160,6 @@ TEST_F(ExportTest, SavesWhatWasMadeAndMailsWhatIsShown)
     EXPECT_EQ(screen().presentedViewController(), nullptr);
 }
 
-TEST_F(ExportTest, WithoutMailTheFileIsThereAllTheSame)
-{
-    device.setCanSendMail(false);
-    create();
-    screen().WriteTextFile();
-    EXPECT_EQ(written(), "[MARROWVALE]\n");
-    ASSERT_NE(alert(), nullptr);
-    EXPECT_EQ(alert()->title() + "/" + alert()->message(), "Sending Email/Email not Setup or Unavailable");
-}
-
 TEST_F(ExportTest, AnEarlierFileIsNeverTakenForOneThatCouldNotBeWritten)
 {
     create();
@@ -197,17 +181,6 @@ TEST_F(ExportTest, AnEarlierFileIsNeverTakenForOneThatCouldNotBeWritten)
     EXPECT_TRUE(device.mailTwin->composed.empty());
     EXPECT_EQ(screen().presentedViewController(), nullptr) << "nothing to attach: nothing is shown";
     EXPECT_EQ(screen().ExportTextView->text(), "edited, mailed");
-}
-
-TEST_F(ExportTest, LeavingTheScreenGivesTheRunUp)
-{
-    given({.name = "m"});
-    navigation.push(std::make_unique<ExportViewController>());
-    screen().CreateUpdateFile();
-    navigation.pop();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    queue.advance(2s);
-    EXPECT_EQ(alert(), nullptr);
 }
 
 using ExportDeathTest = ExportTest;

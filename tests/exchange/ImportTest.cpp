@@ -1,5 +1,4 @@
 #include "exchange/ExchangeWriter.h"
-#include "exchange/ImportExportViewController.h"
 #include "tests/exchange/ChildProcess.h"
 #include "tests/exchange/ImportFixture.h"
 
@@ -17,32 +16,17 @@ QUrl fileWith(const QByteArray& bytes)
     return QUrl::fromLocalFile(file.fileName());
 }
 
-TEST_F(ImportTest, ScreenStartsWithNothingLoaded)
-{
-    EXPECT_EQ(screen->title(), QString("Import Movies"));
-    EXPECT_EQ(screen->HelpTextView->text(), QString("YOU CAN ONLY IMPORT THE FILE CREATED BY THIS APP.\n"
-                                                    "1: Select the file you saved to your iCloud drive\n"
-                                                    "2: Import the file into your device"));
-    EXPECT_FALSE(screen->ImportButton->isEnabled());
-    EXPECT_TRUE(screen->LoadFileButton->isEnabled());
-}
-
 TEST_F(ImportTest, ButtonsFollowTheInterfaceStyle)
 {
     for (const bool dark : {false, true}) {
         device.setDark(dark);
         ImportViewController import;
-        ImportExportViewController choice;
         import.viewDidLoad();
-        choice.viewDidLoad();
         const Layer expected{
             .cornerRadius = 10, .borderWidth = 1, .borderColor = dark ? Qt::white : Qt::black};
-        for (const UIButton* button : {import.ImportButton, import.LoadFileButton, choice.ExportMoviesButton,
-                                       choice.ImportMoviesButton})
+        for (const UIButton* button : {import.ImportButton, import.LoadFileButton})
             EXPECT_EQ(button->layer(), expected);
         EXPECT_EQ(import.ImportButton->disabledTitleColor(), QColor(Qt::gray));
-        EXPECT_EQ(choice.title() + choice.ExportMoviesButton->title() + choice.ImportMoviesButton->title(),
-                  QString("Import/ExportExport MoviesImport Movies"));
     }
 }
 
@@ -155,51 +139,6 @@ TEST_F(ImportTest, EveryLineMakesOrMeetsARecord)
             context().deleteObject(movie);
         ASSERT_TRUE(context().save().ok());
     }
-}
-
-TEST_F(ImportTest, AnUpdateSetsWhatTheLineSaysAndKeepsTheRest)
-{
-    const QDateTime watched(QDate(2020, 1, 2), QTime(3, 4), Qt::UTC);
-    const auto movie =
-        given({.name = "F", .genre = "G", .rating = "R", .year = 1999, .runTime = 90, .watched = watched});
-    movie->setWYear(2020);
-    importLines({"A, B^^^^F^^^^^1999^x~y^!"});
-    EXPECT_EQ(movie->actors(), QString("A\nB"));
-    EXPECT_EQ(movie->notes(), QString("x\ny"));
-    EXPECT_EQ(movie->genre(), QString("G"));
-    EXPECT_EQ(movie->runTime(), 90);
-    EXPECT_EQ(movie->dateWatched(), watched);
-    importLines({"^2021-03-05 20:15:00 +0000^^^F^^^^x^1999y^^"});
-    EXPECT_EQ(movie->dateWatched(), std::nullopt);
-    EXPECT_EQ(movie->wYear(), 2020);
-    EXPECT_EQ(movie->runTime(), 0);
-    EXPECT_EQ(movie->yearReleased(), 0);
-    importLines({"^^^^F^^^^^abc^^QUJD"});
-    EXPECT_EQ(movie->frontCover(), QByteArray("ABC"));
-    movie->setYearReleased(2000);
-    importLines({"^^^^F^^^^^2000^^QUJ"});
-    EXPECT_EQ(movie->frontCover(), std::nullopt);
-}
-
-TEST_F(ImportTest, ANewMovieKeepsNamesOnOneLineAndHasNoWatchDate)
-{
-    importLines({"A, B^2021-03-05 20:15:00 +0000^^^Ocean's Eleven^^^^^1960^x~y^QUJD"});
-    const auto movie = film("Oceans Eleven");
-    EXPECT_EQ(movie->actors(), QString("A, B"));
-    EXPECT_EQ(movie->notes(), QString("x\ny"));
-    EXPECT_EQ(movie->dateWatched(), std::nullopt);
-    EXPECT_EQ(movie->genre(), std::nullopt);
-    EXPECT_EQ(movie->frontCover(), QByteArray("ABC"));
-    EXPECT_EQ(movie->wYear(), 0);
-}
-
-TEST_F(ImportTest, TwoMoviesOfOneKeyAreLeftAlone)
-{
-    given({.name = "F", .genre = "G", .year = 1999});
-    given({.name = "F", .genre = "H", .year = 1999});
-    importLines({"^^^X^F^^^^1^1999^^"});
-    EXPECT_EQ(records(storedMovies()),
-              QStringList({"^^^G^F^^^^0^1999^^", "^^^H^F^^^^0^1999^^", "[MARROWVALE]^^^^^^^^0^0^^"}));
 }
 
 TEST_F(ImportTest, ANewMovieWithoutAProperNumberEndsTheProgramAfterTheLinesBefore)

@@ -12,22 +12,9 @@ class PrintTest : public CatalogueTest
 protected:
     void SetUp() override
     {
-        for (const char* name : {"b", "a", "c"}) {
-            const auto movie = given({.name = name, .genre = "War", .rating = "R", .year = 1999});
-            movie->setProvider(QString("DVD"));
-            movie->setWYear(2021);
-            movie->setWMonth(3);
-        }
-        given({.name = "other", .genre = "war", .rating = "G", .year = 2000});
-        EXPECT_TRUE(context().save().ok());
-        MovieFields& chosen = shared().CurrentMovie;
-        chosen.provider = "DVD";
-        chosen.genre = "War";
-        chosen.rating = "R";
-        chosen.yearReleased = 1999;
-        shared().SelectedYear = 2021;
-        shared().SelectedMonth = 3;
-        shared().GlobalSortAsc = true;
+        for (const char* name : {"b", "a", "c"})
+            given({.name = name, .genre = "War"});
+        shared().CurrentMovie.genre = "War";
         navigation.push(std::make_unique<UIViewController>());
     }
 
@@ -41,55 +28,9 @@ protected:
         return static_cast<PrintMoviesViewController&>(*navigation.topViewController());
     }
 
-    // The titles in the text, in order, after what stands before the first.
-    static QString outline(const PrintMoviesViewController& screen)
-    {
-        QStringList titles;
-        const QStringList blocks = screen.FileTextView->text().split("Movie Name: ");
-        for (const QString& block : blocks)
-            titles.append(block.section('\n', 0, 0));
-        return titles.join(",");
-    }
-
     PlainStoryboard storyboard;
     UINavigationController navigation{storyboard};
 };
-
-TEST_F(PrintTest, TheCallerSaysWhatIsPrinted)
-{
-    const std::pair<const char*, const char*> cases[] = {
-        {"MainMenu", ",a,b,c,other"},        {"GenreBreakdown", "Movies Filtered by Genre: War,a,b,c"},
-        {"DateReleasedBreakdown", ",a,b,c"}, {"DateWatchedBreakdown", ",a,b,c"},
-        {"RatingBreakdown", ",a,b,c"},       {"ProviderBreakdown", ",a,b,c"},
-    };
-    for (const auto& [caller, expected] : cases) {
-        auto& screen = openedFrom(caller);
-        EXPECT_EQ(screen.FileTextView->text(), "");
-        screen.CreateFileClick();
-        EXPECT_EQ(outline(screen), expected) << caller;
-        EXPECT_EQ(screen.i, screen.MovieList.size());
-        navigation.pop();
-    }
-    shared().GlobalSortAsc = false;
-    auto& screen = openedFrom("RatingBreakdown");
-    screen.CreateFileClick();
-    EXPECT_EQ(outline(screen), ",c,b,a");
-}
-
-TEST_F(PrintTest, APressAgainAddsEverythingAgain)
-{
-    auto& screen = openedFrom("GenreBreakdown");
-    screen.CreateFileClick();
-    const QString once = screen.FileTextView->text();
-    EXPECT_EQ(screen.MovieString.runs().front().style.fontSize, 21);
-    screen.CreateFileClick();
-    EXPECT_EQ(screen.FileTextView->text(), once + once);
-    EXPECT_EQ(screen.i, 6);
-    const auto& first = screen.MovieString.runs().front();
-    EXPECT_TRUE(first.text.startsWith(once)) << "what stood there became one title";
-    EXPECT_EQ(first.style.fontSize, 21);
-    EXPECT_FALSE(first.attachment);
-}
 
 TEST_F(PrintTest, ThePrinterGetsTheTextShownAndTheConsoleTheOutcome)
 {

@@ -40,21 +40,6 @@ TEST(Reader, PartsLinesAtEveryBreakAndDropsApostrophes)
     }
 }
 
-TEST(Reader, TakesTwelveFieldsOfALine)
-{
-    const auto joined = [](const QString& line) {
-        QStringList fields;
-        for (const QStringView field : splitRecord(line))
-            fields.append(field.toString());
-        return fields.join('|');
-    };
-    EXPECT_EQ(joined(""), "|||||||||||");
-    EXPECT_EQ(joined("a"), "a|||||||||||");
-    EXPECT_EQ(joined("^^^^Alien^^^^0^1979^^"), "||||Alien||||0|1979||");
-    EXPECT_EQ(joined("0^1^2^3^4^5^6^7^8^9^A^B^C^D"), "0|1|2|3|4|5|6|7|8|9|A|B");
-    EXPECT_EQ(joined(QString(100, '^')), "|||||||||||");
-}
-
 constexpr auto untouched = "untouched";
 constexpr auto noValue = "no value";
 
@@ -141,16 +126,6 @@ TEST(Reader, ReadsEachFieldInItsWay)
         EXPECT_EQ(reading(field, text, ImportTarget::NewMovie), forNew.value_or(forExisting))
             << qPrintable(text);
     }
-}
-
-TEST(Reader, IsNotImpressedBySize)
-{
-    const QString manyLines(200'000, '\n');
-    EXPECT_EQ(linesOf(manyLines).size(), 200'001);
-    const QString longLine(20 << 20, 'x');
-    EXPECT_FALSE(isExchangeText(longLine));
-    EXPECT_EQ(splitRecord(longLine).front().size(), longLine.size());
-    EXPECT_EQ(reading(11, longLine, ImportTarget::NewMovie).size(), 6 + longLine.size() / 4 * 3);
 }
 
 TEST(TextFile, IsReadInItsOwnEncoding)

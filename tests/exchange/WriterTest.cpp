@@ -1,6 +1,5 @@
 #include "exchange/ExchangeWriter.h"
 #include "platform/toolkit/UIImage.h"
-#include "tests/support/Catalogue.h"
 
 #include <QBuffer>
 #include <QTimeZone>
@@ -94,29 +93,6 @@ TEST(Writer, EncodesEveryCoverAnew)
         ASSERT_FALSE(failed.ok()) << noPicture.size();
         EXPECT_EQ(failed.error().userInfo["movieName"], text("Alien"));
     }
-}
-
-using WrittenCatalogue = CatalogueTest;
-
-TEST_F(WrittenCatalogue, IsInTheOrderOfTitleThenYearThenDirectors)
-{
-    const auto given = [](const char* name, qint16 year, const char* directors) {
-        CatalogueTest::given({.name = text(name), .year = year})->setDirectors(text(directors));
-    };
-    given("b", 1, "z");
-    given("a", 2, "y");
-    given("a", 10, "b");
-    given("a", 10, "a");
-    given("B", 9, "c");
-    QString written;
-    const auto movies = context().fetch<Movies>(exchangeRequest());
-    for (const auto& movie : movies.value())
-        written += exchangeRecord(exchangeValues(*movie)).value();
-    EXPECT_EQ(written, "^^c^^B^^^^0^9^^\n\n"
-                       "^^y^^a^^^^0^2^^\n\n"
-                       "^^a^^a^^^^0^10^^\n\n"
-                       "^^b^^a^^^^0^10^^\n\n"
-                       "^^z^^b^^^^0^1^^\n\n");
 }
 
 } // namespace

@@ -47,22 +47,6 @@ protected:
     RecordingDevice device;
 };
 
-TEST_F(ReviewServiceTest, AsksOnceAndRemembersWhenAcrossRestarts)
-{
-    ReviewService service = at(local(6, 1));
-    EXPECT_EQ(service.lastRequest(), std::nullopt);
-    service.requestReview();
-    EXPECT_EQ(asked().size(), 1U);
-    EXPECT_EQ(at(local(6, 2)).lastRequest(), local(6, 1));
-    service.requestReview();
-    at(local(6, 8)).requestReview();
-    EXPECT_EQ(asked().size(), 1U);
-    EXPECT_EQ(service.lastRequest(), local(6, 1)) << "what isn't asked isn't counted";
-    at(local(6, 9)).requestReview();
-    EXPECT_EQ(asked().size(), 2U);
-    EXPECT_EQ(service.lastRequest(), local(6, 9));
-}
-
 TEST_F(ReviewServiceTest, SevenDaysOfTheCalendarMustBeOver)
 {
     struct Case
@@ -84,21 +68,6 @@ TEST_F(ReviewServiceTest, SevenDaysOfTheCalendarMustBeOver)
         EXPECT_TRUE(at(example.weekLater.addSecs(1)).canRequestReview());
         EXPECT_FALSE(at(example.last.addSecs(-1)).canRequestReview()) << "a clock set back";
     }
-}
-
-TEST_F(ReviewServiceTest, WhatIsNoDateCountsAsNeverAndAbsentIsNotWritten)
-{
-    ReviewService service = at(local(6, 1));
-    service.setLastRequest(std::nullopt);
-    EXPECT_EQ(service.defaults.objectForKey(key), std::nullopt);
-    for (const QVariant& value : {QVariant("yesterday"), QVariant(true), QVariant("")}) {
-        service.defaults.setObject(value, key);
-        EXPECT_EQ(service.lastRequest(), std::nullopt);
-        EXPECT_TRUE(service.canRequestReview());
-    }
-    service.setLastRequest(local(5, 31));
-    service.setLastRequest(std::nullopt);
-    EXPECT_EQ(service.lastRequest(), local(5, 31));
 }
 
 TEST_F(ReviewServiceTest, AsksInTheFirstSceneInTheForegroundWhereTheSystemKnowsScenes)

@@ -52,18 +52,6 @@ TEST(DateFormatter, WritesEachStyleInTheUsersLocaleAndZone)
     }
 }
 
-TEST(DateFormatter, AnExplicitFormatWinsWhicheverIsSetLast)
-{
-    DateFormatter formatter = formatterOf(DateStyle::Long);
-    formatter.setDateFormat(QStringLiteral("yyyy MMMM"));
-    const DateFormatter copy = formatter;
-    formatter.setDateFormat(QStringLiteral("MMMM yyyy"));
-    formatter.setDateStyle(DateStyle::Full);
-    EXPECT_EQ(formatter.stringFrom(lateOnMarch5), QStringLiteral("March 2021"));
-    EXPECT_EQ(copy.stringFrom(lateOnMarch5), QStringLiteral("2021 March"));
-    EXPECT_EQ(copy.stringFrom(QDateTime()), QString());
-}
-
 TEST(DateFormatter, ReadsWhatItWritesAndNothingElse)
 {
     for (const auto style : {DateStyle::Full, DateStyle::Long, DateStyle::Medium}) {
@@ -75,40 +63,9 @@ TEST(DateFormatter, ReadsWhatItWritesAndNothingElse)
         EXPECT_EQ(medium.dateFrom(QString::fromUtf8(text)), std::nullopt) << text;
 }
 
-TEST(DateFormatter, AsCreatedUnderstandsNothing)
-{
-    const DateFormatter bare;
-    EXPECT_EQ(bare.stringFrom(lateOnMarch5), QString());
-    for (const auto& text : {QString(), QStringLiteral("Mar 5, 2021"), descriptionOf(lateOnMarch5)})
-        EXPECT_EQ(bare.dateFrom(text), std::nullopt);
-}
-
 TEST(DateDescription, IsAlwaysUtcInWesternDigits)
 {
     const InLocale there("ar_EG");
     EXPECT_EQ(descriptionOf(lateOnMarch5.toLocalTime()), QStringLiteral("2021-03-06 03:30:00 +0000"));
     EXPECT_EQ(descriptionOf(utc(987, 1, 2, 23, 59)), QStringLiteral("0987-01-02 23:59:00 +0000"));
-}
-
-TEST(Calendar, ComponentsAreThoseOfTheUsersDay)
-{
-    EXPECT_EQ(Calendar::current().components(lateOnMarch5), (DateComponents{2021, 3, 5}));
-    EXPECT_EQ(Calendar::current().components(utc(2024, 2, 29, 12)), (DateComponents{2024, 2, 29}));
-    const InLocale there("th_TH");
-    EXPECT_EQ(Calendar::current().components(lateOnMarch5), (DateComponents{2564, 3, 5}));
-}
-
-TEST(Calendar, AddingDaysKeepsTheTimeOfDay)
-{
-    // Clocks went forward on 14 March 2021, so that week had an hour less.
-    const auto date = utc(2021, 3, 15, 12, 34).addMSecs(567);
-    EXPECT_EQ(Calendar::current().dateByAddingDays(-7, date), date.addDays(-7).addSecs(3600));
-    EXPECT_EQ(Calendar::current().dateByAddingDays(7, date), date.addDays(7));
-}
-
-TEST(Calendar, YearsStartAtLocalMidnight)
-{
-    const auto calendar = Calendar::current();
-    EXPECT_EQ(calendar.startOfYear(2021), utc(2021, 1, 1, 5));
-    EXPECT_EQ(calendar.components(calendar.startOfYear(2022).addMSecs(-1)), (DateComponents{2021, 12, 31}));
 }

@@ -8,30 +8,6 @@
 
 using namespace std::chrono_literals;
 
-TEST(DispatchQueue, RunsWhatIsDueInOrder)
-{
-    QString ran;
-    const auto note = [&ran](char16_t mark) { return [&ran, mark] { ran += QChar(mark); }; };
-    ManualQueue queue;
-    auto& main = DispatchQueue::main();
-    main.asyncAfter(5s, note(u'c'));
-    main.asyncAfter(1s, [&] {
-        ran += u'b';
-        main.asyncAfter(5s, note(u'e'));
-    });
-    main.asyncAfter(5s, note(u'd'));
-    main.async(note(u'a'));
-    EXPECT_EQ(ran, QString());
-    queue.advance(0s);
-    EXPECT_EQ(ran, QStringLiteral("a"));
-    queue.advance(5s);
-    EXPECT_EQ(ran, QStringLiteral("abcd"));
-    queue.advance(999ms);
-    EXPECT_EQ(queue.pending(), 1U);
-    queue.advance(1ms);
-    EXPECT_EQ(ran, QStringLiteral("abcde"));
-}
-
 TEST(DispatchQueue, IsTheEventLoopOutsideEveryScope)
 {
     auto& ordinary = DispatchQueue::main();

@@ -24,14 +24,6 @@ UserDefaults afterRestart()
 
 } // namespace
 
-TEST(UserDefaults, AnAbsentKeyIsFalseAndHoldsNothing)
-{
-    const auto defaults = UserDefaults::standard();
-    EXPECT_FALSE(defaults.boolForKey(key));
-    EXPECT_EQ(defaults.objectForKey(key), std::nullopt);
-    EXPECT_FALSE(QFileInfo::exists(settingsPath()));
-}
-
 TEST(UserDefaults, ValuesKeepTheirTypeAcrossARestart)
 {
     const QVariant values[] = {
@@ -55,16 +47,6 @@ TEST(UserDefaults, ValuesKeepTheirTypeAcrossARestart)
         EXPECT_EQ(*read, values[i]) << i;
         EXPECT_EQ(restarted.boolForKey(key + QString::number(i)), i == 0);
     }
-}
-
-TEST(UserDefaults, HandlesSeeEachOthersWrites)
-{
-    const auto reader = UserDefaults::standard();
-    auto writer = UserDefaults::standard();
-    writer.setBool(true, key);
-    EXPECT_TRUE(reader.boolForKey(key));
-    writer.setBool(false, key);
-    EXPECT_EQ(reader.objectForKey(key), QVariant(false));
 }
 
 TEST(UserDefaults, TheDirectoryIsTheUsersAlone)

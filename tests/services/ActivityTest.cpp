@@ -82,25 +82,6 @@ TEST_F(ActivityTest, WordsAreCopiedAndSavedALineEach)
     }
 }
 
-TEST_F(ActivityTest, APictureIsCopiedAndSavedAsAPicture)
-{
-    shown({picture()}).choose(Copy);
-    EXPECT_EQ(device.pasteboardTwin->picture, picture());
-    shown({picture()}).choose(Save);
-    EXPECT_EQ(device.savedDocuments().back().name, QString("Shared.png"));
-    EXPECT_EQ(QImage::fromData(device.savedDocuments().back().content).convertToFormat(QImage::Format_RGB32),
-              picture());
-}
-
-TEST_F(ActivityTest, AFileIsSavedByteForByteUnderItsOwnName)
-{
-    UIActivityViewController& sheet = shown({writtenFile("My Movies.csv", QByteArray("a\0\xE9", 3))});
-    EXPECT_EQ(sheet.preview(), QString("My Movies.csv"));
-    sheet.choose(Save);
-    EXPECT_EQ(device.savedDocuments().back().name, QString("My Movies.csv"));
-    EXPECT_EQ(device.savedDocuments().back().content, QByteArray("a\0\xE9", 3));
-}
-
 TEST_F(ActivityTest, WhatCannotBeSavedIsSaidOnTheScreenBelowTheSheet)
 {
     device.setSaveProblem("No space left on device");
@@ -148,17 +129,6 @@ TEST_F(ActivityTest, OffersWhatTheItemsAndTheDeviceAllow)
     }
 }
 
-TEST_F(ActivityTest, ExcludedActivitiesAreNotOffered)
-{
-    using Type = UIActivityViewController::ActivityType;
-    const std::vector<Type> excluded{Type::AirDrop,     Type::AddToReadingList, Type::Mail,
-                                     Type::Message,     Type::PostToFacebook,   Type::PostToTwitter,
-                                     Type::MarkupAsPDF, Type::CopyToPasteboard, Type::Print};
-    const UIActivityViewController sheet({QString("text"), QUrl("file:///tmp/a.pdf")}, excluded);
-    EXPECT_EQ(sheet.activityTitles(), QStringList({"Save to Files", "Open With"}));
-    EXPECT_EQ(sheet.activitySymbols(), QStringList({"folder.badge.plus", "arrow.up.forward.app"}));
-}
-
 TEST_F(ActivityTest, MailHasTheWordsInItsBodyAndTheRestAttached)
 {
     const QUrl pdf("file:///tmp/GenreMovieList.pdf");
@@ -178,12 +148,6 @@ TEST_F(ActivityTest, MailHasTheWordsInItsBodyAndTheRestAttached)
     share({pdf}, "Mail");
     EXPECT_EQ(device.mailTwin->composed.back().subject, "GenreMovieList.pdf");
     EXPECT_EQ(device.mailTwin->composed.back().body, "");
-}
-
-TEST_F(ActivityTest, AMessageHasTheWordsAlone)
-{
-    share({QString("Look"), QUrl("https://example.org"), QUrl("file:///tmp/a.csv"), picture()}, "Message");
-    EXPECT_EQ(device.textMessagesTwin->composed, QStringList("Look\nhttps://example.org"));
 }
 
 TEST_F(ActivityTest, PrintsWhatStandsForAllOfIt)
@@ -223,26 +187,6 @@ TEST_F(ActivityTest, WhatCannotBePrintedOrOpenedIsSaid)
     device.addressOpenerTwin->can = false;
     share({pdf, QUrl("https://example.org")}, "Open With");
     EXPECT_EQ(alertText(), "Open With: No program of this device can open a.pdf, https://example.org. OK");
-}
-
-TEST_F(ActivityTest, ClosingTheSheetOrAChoiceThatIsNotOfferedDoesNothing)
-{
-    UIActivityViewController& sheet = shown({QString("text")});
-    sheet.choose(-1);
-    sheet.choose(static_cast<int>(allActivities().size()));
-    EXPECT_EQ(screen.presentedViewController(), &sheet);
-    sheet.cancel();
-    EXPECT_EQ(screen.presentedViewController(), nullptr);
-    sheet.choose(Copy);
-    EXPECT_TRUE(device.pasteboardTwin->text.isNull());
-}
-
-TEST_F(ActivityTest, EveryActivityHasItsSymbol)
-{
-    for (const Activity& activity : allActivities()) {
-        const QString symbol = MARROWVALE_SOURCE_DIR "/resources/symbols/" + activity.symbol + ".svg";
-        EXPECT_TRUE(QFile::exists(symbol)) << symbol.toStdString();
-    }
 }
 
 } // namespace

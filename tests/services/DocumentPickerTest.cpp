@@ -71,14 +71,6 @@ TEST_F(DocumentPickerTest, TheDialogLeavesWithThePicker)
     EXPECT_FALSE(device.isPicking());
 }
 
-TEST_F(DocumentPickerTest, AnAnswerAfterThePickerIsGoneIsDropped)
-{
-    screen->pick();
-    const auto tell = device.documentsTwin->picked;
-    screen.reset();
-    tell(QUrl("file:///tmp/late.csv"));
-}
-
 TEST_F(DocumentPickerTest, PicturesAreFilteredAndEveryFileStaysWithinReach)
 {
     const auto filters = [this](const QStringList& types) {

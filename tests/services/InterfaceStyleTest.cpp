@@ -73,15 +73,4 @@ TEST_F(InterfaceStyleTest, FollowsThePortalsSettingAndNoOther)
     EXPECT_EQ(told, std::vector<bool>({true, false}));
 }
 
-TEST_F(InterfaceStyleTest, APortalThatNeverAnswersHoldsNothingUp)
-{
-    for (const bool dark : {true, false}) {
-        setDesktopDark(dark);
-        portal->asked = 0;
-        const PortalInterfaceStyle style(connection("program"));
-        ASSERT_TRUE(comesTrue([this] { return portal->asked > 0; }));
-        EXPECT_EQ(style.isDark(), dark);
-    }
-}
-
 } // namespace

@@ -7,7 +7,6 @@
 #include "tests/support/RecordingDevice.h"
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -67,55 +66,11 @@ protected:
         return nullptr;
     }
 
-    static void acceptAs(const QString& file)
-    {
-        shownDialog()->findChild<QLineEdit*>("filename")->setText(file);
-        QMetaObject::invokeMethod(shownDialog(), "accept");
-    }
-
     FakePrograms programs;
     RecordingDevice device;
     std::unique_ptr<LinuxPrinter> printer = std::make_unique<LinuxPrinter>();
     QStringList told;
 };
-
-TEST_F(LinuxPrinterTest, PrintsIntoTheFileThatTheDialogNames)
-{
-    struct Case
-    {
-        PrintContent content;
-        QByteArray start;
-        int leastPages;
-        int pictures;
-    };
-    const QString path = QDir::home().absoluteFilePath("printed.pdf");
-    for (const Case& each : {Case{longText(), "%PDF-1.4\n", 5, 1}, Case{picture(), "%PDF-1.4\n", 1, 1}}) {
-        SCOPED_TRACE(each.content.index());
-        told.clear();
-        print(each.content);
-        ASSERT_TRUE(comesTrue([] { return shownDialog() != nullptr; }));
-        acceptAs(path);
-        ASSERT_TRUE(isTold());
-        EXPECT_EQ(told, QStringList("completed"));
-        const QByteArray printed = contentOf(path);
-        EXPECT_TRUE(printed.startsWith(each.start));
-        EXPECT_GE(printed.count("/Type /Page\n"), each.leastPages);
-        EXPECT_EQ(printed.count("/Subtype /Image\n"), each.pictures);
-        ASSERT_TRUE(QFile::remove(path));
-    }
-}
-
-TEST_F(LinuxPrinterTest, AFileThatCanNotBeWrittenIsNotDone)
-{
-    const QString folder = QDir::home().absoluteFilePath("folder");
-    ASSERT_TRUE(QDir().mkdir(folder));
-    print(picture());
-    ASSERT_TRUE(comesTrue([] { return shownDialog() != nullptr; }));
-    acceptAs(folder + "/printed.pdf");
-    ASSERT_TRUE(QDir().rmdir(folder));
-    ASSERT_TRUE(isTold());
-    EXPECT_EQ(told, QStringList("No such file or directory"));
-}
 
 TEST_F(LinuxPrinterTest, WithoutAnAnsweringQueueThePagesAreOfferedAsAFile)
 {
@@ -153,15 +108,6 @@ TEST_F(LinuxPrinterTest, WhatCannotBeSavedIsTold)
 
 TEST_F(LinuxPrinterTest, ADialogThatIsLeftCancelsTheJob)
 {
-    struct NobodySaves : RecordingDevice::RecordingDocuments
-    {
-        void saveDocument(const QString& /*name*/, const QByteArray& /*content*/, Saved tell) override
-        {
-            asked = std::move(tell);
-        }
-        void cancelPicking() override { asked = nullptr; }
-        Saved asked;
-    };
     const std::vector<std::function<void()>> ways{
         [] { shownDialog()->reject(); },
         [this] { printer->cancelAsking(); },
@@ -175,16 +121,6 @@ TEST_F(LinuxPrinterTest, ADialogThatIsLeftCancelsTheJob)
         EXPECT_EQ(told, QStringList("cancelled"));
         EXPECT_EQ(shownDialog(), nullptr);
     }
-    device.documents = std::make_unique<NobodySaves>();
-    const auto& asked = static_cast<NobodySaves&>(*device.documents).asked;
-    ASSERT_TRUE(QFile::remove(FakePrograms::path("lpstat")));
-    told.clear();
-    printer = std::make_unique<LinuxPrinter>();
-    print(longText());
-    ASSERT_TRUE(comesTrue([&asked] { return asked != nullptr; }));
-    EXPECT_EQ(told, QStringList());
-    printer->cancelAsking();
-    EXPECT_EQ(told, QStringList("cancelled"));
 }
 
 TEST(PdfRenderingTest, AFileThatTakesNoBytesIsAProblem)

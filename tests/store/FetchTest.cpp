@@ -61,44 +61,4 @@ TEST(Fetch, answersTheSameObjectsInTheSameOrderWhateverIsHeld)
     }
 }
 
-TEST(Fetch, aRecordHasOneObjectAsLongAsItIsHeld)
-{
-    TestStore store;
-    const auto inserted = store.add(QStringLiteral("Alien"));
-    EXPECT_EQ(store.all().front(), inserted);
-    ASSERT_TRUE(store.context->save());
-    EXPECT_EQ(store.all().front(), inserted);
-
-    store.reopen();
-    auto film = store.all().front();
-    film->setText(Films::Title, QStringLiteral("Aliens"));
-    film.reset();
-    EXPECT_EQ(titlesOf(store.all()), QStringLiteral("Aliens")) << "an unsaved change keeps its object";
-    ASSERT_TRUE(store.context->save());
-    EXPECT_EQ(titlesOf(store.all()), QStringLiteral("Aliens"));
-}
-
-TEST(Fetch, objectsOutliveTheirContext)
-{
-    auto store = std::make_unique<TestStore>();
-    const auto saved = store->add(QStringLiteral("saved"));
-    ASSERT_TRUE(store->context->save());
-    store->add(QStringLiteral("written"));
-    ASSERT_EQ(store->all().size(), 2U);
-    const auto waiting = store->add(QStringLiteral("waiting"));
-    store.reset();
-    saved->setText(Films::Title, QStringLiteral("changed"));
-    EXPECT_EQ(titlesOf({saved, waiting}), QStringLiteral("saved waiting"));
-}
-
-TEST(FetchDeathTest, programmingErrorsEndTheProgram)
-{
-    TestStore store;
-    EXPECT_DEATH((void)store.context->count(NSFetchRequest(QStringLiteral("Books"))).ok(),
-                 "entity called Books");
-    EXPECT_DEATH((void)store.context->count(NSFetchRequest()).ok(), "entity called");
-    EXPECT_DEATH((void)store.context->fetch(sortedBy("stars", true)).ok(), "attribute stars .* entity Films");
-    EXPECT_DEATH((void)store.context->fetch<Tags>(Films::fetchRequest()).ok(), "Films was fetched as Tags");
-}
-
 } // namespace

@@ -67,22 +67,6 @@ TEST(NSPredicate, matchesRecordsByOneComparison)
     }
 }
 
-TEST(NSCompoundPredicate, matchesWhereAllDo)
-{
-    TestStore store;
-    store.add(QStringLiteral("Clue"), 1985);
-    store.add(QStringLiteral("Clue"), 2010);
-    auto request = Films::fetchRequest();
-    request.predicate =
-        NSCompoundPredicate::andPredicate({NSPredicate(QStringLiteral("title == %@"), words("Clue")),
-                                           NSPredicate(QStringLiteral("year > %@"), words("1990"))});
-    const auto found = store.context->fetch<Films>(request).value();
-    ASSERT_EQ(found.size(), 1U);
-    EXPECT_EQ(found.front()->int16(Films::Year), 2010);
-    request.predicate = NSCompoundPredicate::andPredicate({});
-    EXPECT_EQ(store.context->count(request).value(), 2);
-}
-
 TEST(NSPredicateDeathTest, programmingErrorsEndTheProgramAndSayWhich)
 {
     for (const auto* format : {"title LIKE %@", "title == 'x'", "title === %@", "%@ == %@", "! %@", ""}) {

@@ -4,58 +4,6 @@
 
 namespace {
 
-TEST(Saving, unsavedChangesAreSeenByFetchesOnly)
-{
-    TestStore store;
-    const auto film = store.add(QStringLiteral("Alien"), 1979);
-    auto request = Films::fetchRequest();
-    request.predicate = NSPredicate(QStringLiteral("year == %@"), qint64{1986});
-    EXPECT_EQ(store.context->count(request).value(), 0);
-    film->setInt16(Films::Year, 1986);
-    EXPECT_EQ(store.context->count(request).value(), 1);
-    EXPECT_EQ(TestStore::saved("SELECT COUNT(*) FROM Films"), 0);
-    ASSERT_TRUE(store.context->save());
-    EXPECT_FALSE(store.context->hasChanges());
-    EXPECT_EQ(TestStore::saved("SELECT year FROM Films WHERE title = 'Alien'"), 1986);
-
-    film->setInt16(Films::Year, 2000);
-    EXPECT_EQ(store.context->count(request).value(), 0);
-    store.reopen();
-    EXPECT_EQ(store.context->count(request).value(), 1) << "what was never saved is gone";
-}
-
-TEST(Saving, deletedRecordsAreGoneBeforeTheSave)
-{
-    TestStore store;
-    const auto kept = store.add(QStringLiteral("kept"));
-    const auto film = store.add(QStringLiteral("deleted"));
-    film->setBinary(Films::Cover, QByteArray("cover"));
-    ASSERT_TRUE(store.context->save());
-    EXPECT_EQ(TestStore::saved("SELECT COUNT(*) FROM Films_cover"), 1);
-    store.context->deleteObject(film);
-    store.context->deleteObject(film);
-    film->setText(Films::Title, QStringLiteral("ignored"));
-    EXPECT_EQ(titlesOf(store.all()), QStringLiteral("kept"));
-    EXPECT_EQ(film->title(), QStringLiteral("deleted"));
-    EXPECT_EQ(TestStore::saved("SELECT COUNT(*) FROM Films"), 2);
-    ASSERT_TRUE(store.context->save());
-    EXPECT_EQ(TestStore::saved("SELECT COUNT(*) FROM Films"), 1);
-    EXPECT_EQ(TestStore::saved("SELECT COUNT(*) FROM Films_cover"), 0);
-}
-
-TEST(Saving, anInsertThatWasNeverWrittenIsForgotten)
-{
-    TestStore store;
-    store.context->deleteObject(store.add(QStringLiteral("mistake")));
-    EXPECT_FALSE(store.context->hasChanges());
-    const auto written = store.add(QStringLiteral("written"));
-    EXPECT_EQ(store.all().size(), 1U);
-    store.context->deleteObject(written);
-    EXPECT_EQ(store.all().size(), 0U);
-    ASSERT_TRUE(store.context->save());
-    EXPECT_EQ(TestStore::saved("SELECT COUNT(*) FROM Films"), 0);
-}
-
 TEST(Saving, withoutChangesTouchesNothing)
 {
     TestStore store;
@@ -116,20 +64,6 @@ TEST_P(FailedSave, losesNothing)
 }
 
 INSTANTIATE_TEST_SUITE_P(StatementOrTransaction, FailedSave, testing::Bool());
-
-TEST(Saving, waitingTransactionIsLostWholeWithoutTraces)
-{
-    TestStore store;
-    const auto early = store.add(QStringLiteral("early"));
-    ASSERT_EQ(store.all().size(), 1U);
-    ASSERT_TRUE(store.connection->run("ROLLBACK"));
-    const auto late = store.add(QStringLiteral("late"));
-    early->setInt16(Films::Year, 1979);
-    EXPECT_EQ(store.all(), (FilmList{early, late})) << "each is written again, once, in order";
-    ASSERT_TRUE(store.context->save());
-    EXPECT_EQ(TestStore::saved("SELECT COUNT(*) FROM Films"), 2);
-    EXPECT_EQ(TestStore::saved("SELECT year FROM Films WHERE title = 'early'"), 1979);
-}
 
 TEST(BulkSaves, relaxesSavesUntilTheRunEnds)
 {

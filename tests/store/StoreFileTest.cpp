@@ -94,15 +94,6 @@ TEST(StoreFile, whatIsNoStoreOfThisModelIsRefusedUntouched)
     }
 }
 
-TEST(StoreFile, aPlaceThatCannotBeMadeIsAnError)
-{
-    writeFile(qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/films"), "in the way");
-    NSPersistentContainer container(QStringLiteral("Films"), testModel());
-    EXPECT_FALSE(container.loadPersistentStores());
-    EXPECT_FALSE(container.loadPersistentStores(container.defaultDirectory() + QStringLiteral("/deeper")));
-    EXPECT_EQ(bytesOf(container.defaultDirectory()), "in the way");
-}
-
 TEST(StoreFile, isMadeForItsOwnerAlone)
 {
     const auto mode = [](const QString& path) {
@@ -174,12 +165,6 @@ TEST(StoreFile, aSecondContainerLeavesTheFirstItsLocks)
     NSPersistentContainer third(QStringLiteral("Films"), testModel());
     ASSERT_TRUE(third.loadPersistentStores());
     EXPECT_EQ(third.viewContext().count(Films::fetchRequest()).value(), 1);
-}
-
-TEST(StoreFileDeathTest, aContainerHasNoContextBeforeItsStores)
-{
-    const NSPersistentContainer container(QStringLiteral("Films"), testModel());
-    EXPECT_DEATH((void)container.viewContext(), "Films has not loaded its stores");
 }
 
 } // namespace

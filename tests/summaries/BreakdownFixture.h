@@ -16,29 +16,6 @@ protected:
         return static_cast<Screen&>(*navigation.topViewController());
     }
 
-    static QStringList names(const BreakdownTableViewController::MovieRecords& movies)
-    {
-        QStringList texts;
-        for (const auto& movie : movies)
-            texts.append(movie->movieName().value_or("-"));
-        return texts;
-    }
-
-    static MovieTableViewCell cell(BreakdownTableViewController& screen, int row)
-    {
-        return screen.cellForRowAt({row}).value<MovieTableViewCell>();
-    }
-
-    static QString header(BreakdownTableViewController& screen)
-    {
-        return screen.viewForHeaderInSection(0)->text;
-    }
-
-    static void search(BreakdownTableViewController& screen, const QString& text)
-    {
-        screen.searchController->searchBar()->setText(text);
-    }
-
     // A film with every text, in the group of every kind.
     static std::shared_ptr<Movies> alien()
     {

@@ -12,22 +12,8 @@ class GroupTest : public CatalogueTest
 protected:
     enum Tab { Genre, Released, Watched, Rating, Provider };
 
-    static std::shared_ptr<Movies> shownBy(const std::optional<QString>& provider, const QString& name = "m")
-    {
-        const auto movie = given({.name = name});
-        movie->setProvider(provider);
-        EXPECT_TRUE(context().save().ok());
-        return movie;
-    }
-
-    static QDateTime noon(int year, int month, int day)
-    {
-        return QDateTime(QDate(year, month, day), QTime(12, 0));
-    }
-
     // The groups must be there before.
-    template <typename Screen = GroupTableViewController>
-    Screen& opened(Tab tab)
+    GroupTableViewController& opened(Tab tab)
     {
         if (tabs == nullptr) {
             auto bar = std::make_unique<GroupTabBarController>();
@@ -36,7 +22,7 @@ protected:
             navigation.push(std::move(bar));
         }
         tabs->setSelectedIndex(tab);
-        return static_cast<Screen&>(*tabs->stack(tab)->topViewController());
+        return static_cast<GroupTableViewController&>(*tabs->stack(tab)->topViewController());
     }
 
     // "label count" for each row.
@@ -48,11 +34,6 @@ protected:
             texts.append(cell.MovieNameLabel.text + " " + cell.CountLabel.text);
         }
         return texts;
-    }
-
-    static void search(GroupTableViewController& screen, const QString& text)
-    {
-        screen.searchController->searchBar()->setText(text);
     }
 
     static QString header(GroupTableViewController& screen) { return screen.viewForHeaderInSection(0)->text; }

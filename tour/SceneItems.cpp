@@ -7,9 +7,6 @@
 
 namespace {
 
-// Letters are drawn at fractions of pixels.
-constexpr double tolerance = 1.5;
-
 bool isText(const QQuickItem& item)
 {
     return item.inherits("QQuickText") || item.inherits("QQuickTextInput") || item.inherits("QQuickTextEdit");
@@ -42,11 +39,6 @@ QRectF lettersOf(const QQuickItem& text)
     return letters;
 }
 
-bool contains(const QRectF& outer, const QRectF& inner)
-{
-    return outer.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(inner);
-}
-
 void cutBy(const QQuickItem& around, SceneItem& seen)
 {
     const QRectF place = around.mapRectToScene(QRectF(QPointF(), around.size()));
@@ -62,7 +54,7 @@ void cutBy(const QQuickItem& around, SceneItem& seen)
         shown.setLeft(std::max(shown.left(), place.left()));
         shown.setRight(std::min(shown.right(), place.right()));
     }
-    seen.cutOff = seen.cutOff || (shown.isValid() && !contains(place, shown));
+    seen.cutOff = seen.cutOff || (shown.isValid() && !SceneItems::contains(place, shown));
     seen.part = shown.isValid() ? shown & place : QRectF();
 }
 
@@ -75,7 +67,7 @@ SceneItem seenOf(QQuickItem& item, const QQuickWindow& window)
     for (const QQuickItem* around = item.parentItem(); around != nullptr; around = around->parentItem())
         cutBy(*around, seen);
     const QRectF whole(QPointF(), QSizeF(window.size()));
-    seen.cutOff = seen.cutOff || (!seen.part.isEmpty() && !contains(whole, seen.part));
+    seen.cutOff = seen.cutOff || (!seen.part.isEmpty() && !SceneItems::contains(whole, seen.part));
     return seen;
 }
 
@@ -153,4 +145,9 @@ QString SceneItems::describe(const SceneItem& seen)
         .arg(place.height())
         .arg(place.x())
         .arg(place.y());
+}
+
+bool SceneItems::contains(const QRectF& outer, const QRectF& inner)
+{
+    return outer.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(inner);
 }

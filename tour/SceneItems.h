@@ -28,6 +28,10 @@ namespace SceneItems {
 // Whether `item` or one around it is of the QML type of that name, or of one made of it, and has the property
 // set; null: any property.
 [[nodiscard]] bool isWithin(const QQuickItem& item, const QString& type, const char* property = nullptr);
+// Letters are drawn at fractions of pixels: so many don't count.
+constexpr double tolerance = 1.5;
+// Whether `inner` sticks out by no more than the tolerance.
+[[nodiscard]] bool contains(const QRectF& outer, const QRectF& inner);
 // For people: the text or name, the type and the place.
 [[nodiscard]] QString describe(const SceneItem& seen);
 

@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr double tolerance = 1.5;
-
 using Property = SceneException::Property;
 
 QString nameOf(QQuickItem& item)
@@ -28,7 +26,8 @@ bool says(QQuickItem& item, const QString& text)
         spoken += seen->text(kind) + '\n';
     if (QAccessibleTextInterface* content = seen->textInterface(); content != nullptr)
         spoken += content->text(0, content->characterCount());
-    return spoken.simplified().contains(text.simplified());
+    // Whole words: a count of 1 is not spoken by a year.
+    return (' ' + spoken.simplified() + ' ').contains(' ' + text.simplified() + ' ');
 }
 
 // The control that the text stands on; null: none.
@@ -43,6 +42,8 @@ QQuickItem* controlAround(QQuickItem& text)
 bool isSpoken(QQuickItem& item)
 {
     const QString text = SceneItems::textOf(item);
+    if (text.trimmed().isEmpty())
+        return true;
     if (QQuickItem* control = controlAround(item); control != nullptr)
         return says(*control, text);
     const auto beside = item.parentItem()->childItems();
@@ -58,7 +59,8 @@ bool isApart(const SceneItem& one, const SceneItem& other)
 bool overlap(const SceneItem& one, const SceneItem& other)
 {
     const QRectF common = one.part & other.part;
-    return common.width() > tolerance && common.height() > tolerance && isApart(one, other);
+    return common.width() > SceneItems::tolerance && common.height() > SceneItems::tolerance &&
+           isApart(one, other);
 }
 
 bool isPlaceholder(const SceneItem& text, const SceneItem& field)
@@ -77,15 +79,13 @@ QString cutOffProblem(const SceneItem& seen)
     const QRectF own = text.mapRectToScene(QRectF(QPointF(), text.size()));
     constexpr int elideNone = Qt::ElideNone;
     const bool cut = text.property("truncated").toBool() && text.property("elide").toInt() == elideNone;
-    if (cut || !own.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(seen.place))
+    if (cut || !SceneItems::contains(own, seen.place))
         return " is longer than its place";
     QQuickItem* control = controlAround(*seen.item);
     if (control == nullptr)
         return {};
     const QRectF room = control->mapRectToScene(QRectF(QPointF(), control->size()));
-    return room.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(seen.place)
-               ? QString()
-               : QString(" sticks out of its control");
+    return SceneItems::contains(room, seen.place) ? QString() : QString(" sticks out of its control");
 }
 
 // The controls in sight that a screen can switch off, each with its outlet.

@@ -20,7 +20,7 @@ Item {
         host.shown = null;
         // Nothing of its own to close: the keyboard comes back as soon as what stood above is gone, too.
         if (wasShown === null && host.presented === null)
-            Qt.callLater(host.finished);
+            finishing.start();
         const kind = host.stage.presentation(host.presented);
         if (kind === "alert")
             host.show("Alert.qml", {
@@ -34,6 +34,13 @@ Item {
             host.show("CameraSheet.qml", {
                 picker: host.presented
             });
+    }
+
+    Timer {
+        id: finishing
+
+        interval: 0
+        onTriggered: host.finished()
     }
 
     // By address: what no screen has presented yet need not be loaded.

@@ -29,6 +29,9 @@ public:
     {
         ASSERT_TRUE(QTest::qWaitFor([&] { return visible(role, name) != nullptr; })) << qPrintable(name);
         visible(role, name)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        // A popup that it opens takes less.
+        constexpr int longerThanASlide = 450;
+        QTest::qWait(longerThanASlide);
     }
 
     void edit(const QString& field)

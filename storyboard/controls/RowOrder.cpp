@@ -32,12 +32,11 @@ void RowOrder::sort()
 {
     if (!content)
         return;
-    const auto rows = content->childItems();
-    auto sorted = rows;
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [](const QQuickItem* a, const QQuickItem* b) { return a->y() < b->y(); });
-    if (sorted == rows)
+    const auto isAbove = [](const QQuickItem* a, const QQuickItem* b) { return a->y() < b->y(); };
+    auto sorted = content->childItems();
+    if (std::is_sorted(sorted.cbegin(), sorted.cend(), isAbove))
         return;
+    std::stable_sort(sorted.begin(), sorted.end(), isAbove);
     for (qsizetype row = 1; row < sorted.size(); ++row)
         sorted[row]->stackAfter(sorted[row - 1]);
 }

@@ -1,6 +1,8 @@
 #include "browse/ViewController.h"
 #include "model/ReferenceRecords.h"
+#include "platform/toolkit/UINavigationController.h"
 #include "tests/support/Catalogue.h"
+#include "tests/support/PlainStoryboard.h"
 
 namespace {
 
@@ -38,6 +40,24 @@ TEST_F(HomeTest, TheFirstLaunchAloneFillsTheReferenceLists)
     }
     EXPECT_EQ(home.ListOfGenre.size(), 22);
     EXPECT_FALSE(context().hasChanges());
+}
+
+TEST_F(HomeTest, UnwindingToTheMenuPassesTheScreensBetweenAndClosesIt)
+{
+    PlainStoryboard storyboard;
+    UINavigationController navigation(storyboard);
+    navigation.push(std::make_unique<ViewController>());
+    auto& home = static_cast<ViewController&>(*navigation.topViewController());
+    home.HandleSelection();
+    EXPECT_FALSE(home.MovieListButton->isHidden());
+    home.performSegue("TabBarController");
+    EXPECT_TRUE(navigation.isNavigationBarHidden());
+    navigation.topViewController()->performSegue("Next");
+    EXPECT_EQ(navigation.depth(), 3);
+    navigation.topViewController()->performSegue("unwindToMenu");
+    EXPECT_EQ(navigation.depth(), 1);
+    EXPECT_TRUE(home.MovieListButton->isHidden());
+    EXPECT_FALSE(navigation.isNavigationBarHidden());
 }
 
 } // namespace

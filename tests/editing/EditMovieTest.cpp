@@ -139,4 +139,62 @@ TEST_F(EditMovieTest, SavesNothingWithoutARequiredField)
     EXPECT_EQ(closedAlert(screen), "Movie Not Saved: Required Fields Labeled in RED Not Entered");
 }
 
+TEST_F(EditMovieTest, WritesWhatIsFilledInAndLeavesTheRest)
+{
+    const auto movie = chosen();
+    EditMovieViewController& screen = opened();
+    type(*screen.MovieNameTextField, " Aliens ");
+    type(*screen.YearReleasedTextField, "1986");
+    type(*screen.ActorsTextView, "");
+    screen.RatingTextField->setText("");
+    screen.ProviderTextField->setText(" Hulu ");
+    screen.DateWatched = QDateTime(QDate(2022, 2, 3), QTime(12, 0), Qt::UTC);
+    screen.SaveButtonClicked();
+    EXPECT_EQ(movie, storedMovie()) << "found under the old title and year";
+    EXPECT_EQ(movie->movieName(), "Aliens");
+    EXPECT_EQ(movie->yearReleased(), 1986);
+    EXPECT_EQ(movie->actors(), "Sigourney Weaver") << "an emptied field clears nothing";
+    EXPECT_EQ(movie->rating(), "");
+    EXPECT_EQ(movie->provider(), " Hulu ");
+    EXPECT_EQ(QDate(movie->wYear(), movie->wMonth(), movie->wDay()), QDate(2022, 2, 3));
+    EXPECT_EQ(movie->dateWatched(), screen.DateWatched);
+    EXPECT_EQ(screen.ResultsCount, 1);
+    EXPECT_EQ(storyboard.taken, QStringList("unwindToList"));
+}
+
+TEST_F(EditMovieTest, ReturnsToWhereItWasOpened)
+{
+    const std::pair<const char*, const char*> ways[] = {
+        {"MainList", "unwindToList"},
+        {"GenreBreakdown", "unwindToGenreBreakdownTableView"},
+        {"DateReleasedBreakdown", "unwindToDateReleasedBreakdownTableView"},
+        {"DateWatchedBreakdown", "unwindToDateWatchedBreakdownTableView"},
+        {"RatingBreakdown", "unwindToRatingBreakdownTableView"},
+        {"ProviderBreakdown", "unwindToProviderBreakdownTableView"},
+        {"MainMenu", nullptr},
+    };
+    chosen();
+    EditMovieViewController& screen = opened();
+    for (const auto& [origin, segue] : ways) {
+        shared().ReturnScreen = origin;
+        storyboard.taken.clear();
+        testing::internal::CaptureStdout();
+        screen.SaveButtonClicked();
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), std::string(origin) + "\n");
+        EXPECT_EQ(storyboard.taken, segue ? QStringList(segue) : QStringList()) << origin;
+    }
+}
+
+TEST_F(EditMovieTest, OfTwoWithOneTitleAndYearTheFirstIsChanged)
+{
+    const auto first = chosen();
+    const auto second = given({.name = "Alien", .genre = "Horror", .year = 1979});
+    EditMovieViewController& screen = opened();
+    type(*screen.GenreTextField, "Thriller");
+    screen.SaveButtonClicked();
+    EXPECT_EQ(screen.ResultsCount, 2);
+    EXPECT_EQ(first->genre(), "Thriller");
+    EXPECT_EQ(second->genre(), "Horror");
+}
+
 } // namespace

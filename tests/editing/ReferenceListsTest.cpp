@@ -67,6 +67,20 @@ TEST_P(ReferenceListTest, AFailedSaveIsToldOnTheConsoleAndTheListIsBack)
     EXPECT_EQ(stored(), QStringList("Epic"));
 }
 
+TEST_P(ReferenceListTest, OnlyTheFirstOfEqualTextsIsRenamed)
+{
+    for (const char* value : {"Drama", "Thriller", "Drama"})
+        given(value);
+    EXPECT_EQ(add("Epic"), "");
+    list().tableView()->select(0);
+    auto& screen = opened(member.edit());
+    EXPECT_EQ(screen.valueField->text(), "Drama");
+    screen.valueField->setText(" War\t");
+    press(screen, member.editAction);
+    EXPECT_EQ(stored(), QStringList({"War", "Thriller", "Drama", "Epic"}));
+    EXPECT_EQ(list().listOfValues.back()->value(), "War") << "the list is sorted anew";
+}
+
 template <typename Screen>
 std::unique_ptr<Screen> madeScreen()
 {

@@ -56,4 +56,20 @@ TEST_F(SavingTest, AFailedSaveIsToldOnTheConsoleAndTheScreenLeaves)
     EXPECT_EQ(storyboard.taken, QStringList("unwindToMenu"));
 }
 
+TEST_F(SavingTest, TextsAreStoredTrimmedOfBlanksAndTabs)
+{
+    AddMovieViewController& screen = openedAndFilled();
+    type(*screen.ActorsTextView, "  Weaver\n\tHolm \n");
+    type(*screen.DirectorsTextView, "\tScott ");
+    type(*screen.ProducersTextView, " Carroll\t ");
+    type(*screen.NotesTextView, " scary! ");
+    screen.SaveButtonClicked();
+    const auto movie = storedMovie();
+    EXPECT_EQ(movie->actors(), QString("Weaver\n\tHolm \n")) << "line breaks are no blanks";
+    EXPECT_EQ(movie->directors(), QString("Scott"));
+    EXPECT_EQ(movie->producers(), QString("Carroll"));
+    EXPECT_EQ(movie->notes(), QString("scary!"));
+    EXPECT_EQ(movie->provider(), std::nullopt);
+}
+
 } // namespace

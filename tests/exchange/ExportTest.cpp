@@ -183,6 +183,16 @@ TEST_F(ExportTest, AnEarlierFileIsNeverTakenForOneThatCouldNotBeWritten)
     EXPECT_EQ(screen().ExportTextView->text(), "edited, mailed");
 }
 
+TEST_F(ExportTest, FilmsOfATitleStandInTheOrderOfYearThenDirectors)
+{
+    given({.name = "a", .year = 10})->setDirectors(QString("b"));
+    given({.name = "a", .year = 10})->setDirectors(QString("a"));
+    given({.name = "a", .year = 2})->setDirectors(QString("c"));
+    create();
+    EXPECT_EQ(screen().ExportTextView->text(),
+              "[MARROWVALE]\n^^c^^a^^^^0^2^^\n\n^^a^^a^^^^0^10^^\n\n^^b^^a^^^^0^10^^\n\n");
+}
+
 using ExportDeathTest = ExportTest;
 
 TEST_F(ExportDeathTest, ACoverThatIsNoPictureEndsTheProgram)

@@ -163,4 +163,24 @@ TEST_F(ImportTest, ACatalogueThatDoesNotOpenEndsTheProgramFirst)
         "Fatal error: Unresolved error .+, \\{.*\\}\n");
 }
 
+TEST_F(ImportTest, TwoMoviesOfOneKeyAreLeftAlone)
+{
+    given({.name = "F", .genre = "G", .year = 1999});
+    given({.name = "F", .genre = "H", .year = 1999});
+    importLines({"^^^X^F^^^^1^1999^^"});
+    EXPECT_EQ(records(storedMovies()),
+              QStringList({"^^^G^F^^^^0^1999^^", "^^^H^F^^^^0^1999^^", "[MARROWVALE]^^^^^^^^0^0^^"}));
+}
+
+TEST_F(ImportTest, ALineClearsTheWatchDateAndKeepsItsParts)
+{
+    const QDateTime watched(QDate(2020, 1, 2), QTime(3, 4), Qt::UTC);
+    const auto movie = given({.name = "F", .genre = "G", .year = 1999, .watched = watched});
+    movie->setWYear(2020);
+    importLines({"^2021-03-05 20:15:00 +0000^^^F^^^^^1999^^"});
+    EXPECT_EQ(movie->dateWatched(), std::nullopt);
+    EXPECT_EQ(movie->wYear(), 2020);
+    EXPECT_EQ(movie->genre(), QString("G"));
+}
+
 } // namespace

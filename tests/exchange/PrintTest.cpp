@@ -53,6 +53,14 @@ TEST_F(PrintTest, ThePrinterGetsTheTextShownAndTheConsoleTheOutcome)
     EXPECT_EQ(device.printerTwin->told, nullptr) << "the dialog goes with the screen";
 }
 
+TEST_F(PrintTest, APressAgainTurnsWhatStoodThereIntoOneTitle)
+{
+    auto& screen = openedFrom("MainMenu");
+    screen.CreateFileClick();
+    screen.CreateFileClick();
+    EXPECT_EQ(screen.MovieString.runs().front().style.fontSize, 21);
+}
+
 TEST_F(PrintTest, NothingToPrintIsSaidAtOnceAndAgain)
 {
     shared().CurrentMovie.genre = "Musical";
@@ -70,6 +78,38 @@ TEST_F(PrintTest, NothingToPrintIsSaidAtOnceAndAgain)
     EXPECT_EQ(unknown.presentedViewController(), nullptr) << "no caller that prints, and nothing is said";
     unknown.CreateFileClick();
     EXPECT_NE(unknown.presentedViewController(), nullptr);
+}
+
+TEST_F(PrintTest, TheCallerSaysWhatIsPrinted)
+{
+    MovieFields& chosen = shared().CurrentMovie;
+    chosen.provider = "DVD";
+    chosen.genre = "Epic";
+    chosen.rating = "R";
+    chosen.yearReleased = 1999;
+    shared().SelectedYear = 2021;
+    shared().SelectedMonth = 3;
+    given({.name = "GenreBreakdown", .genre = "Epic"});
+    given({.name = "RatingBreakdown", .rating = "R"});
+    given({.name = "DateReleasedBreakdown", .year = 1999});
+    given({.name = "ProviderBreakdown"})->setProvider(QString("DVD"));
+    const auto watched = given({.name = "DateWatchedBreakdown"});
+    watched->setWYear(2021);
+    watched->setWMonth(3);
+    EXPECT_TRUE(context().save().ok());
+    for (const char* caller : {"GenreBreakdown", "RatingBreakdown", "DateReleasedBreakdown",
+                               "ProviderBreakdown", "DateWatchedBreakdown"}) {
+        const auto& screen = openedFrom(caller);
+        ASSERT_EQ(screen.MovieList.size(), 1U) << caller;
+        EXPECT_EQ(screen.MovieList.front()->movieName(), QString(caller));
+        navigation.pop();
+    }
+    for (const bool ascending : {true, false}) {
+        shared().GlobalSortAsc = ascending;
+        const auto& screen = openedFrom("MainMenu");
+        EXPECT_EQ(screen.MovieList.size(), 8U);
+        EXPECT_EQ(screen.MovieList.back()->movieName(), QString(ascending ? "c" : "DateReleasedBreakdown"));
+    }
 }
 
 } // namespace

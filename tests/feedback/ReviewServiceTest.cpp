@@ -90,4 +90,15 @@ TEST_F(ReviewServiceTest, AsksInTheFirstSceneInTheForegroundWhereTheSystemKnowsS
     EXPECT_EQ(askedIn(13.9), Scenes{nullptr});
 }
 
+TEST_F(ReviewServiceTest, CountsWhatIsNoDateAsNeverAndWritesNoAbsentDate)
+{
+    ReviewService service = at(local(6, 1));
+    service.defaults.setObject("yesterday", key);
+    EXPECT_EQ(service.lastRequest(), std::nullopt);
+    EXPECT_TRUE(service.canRequestReview());
+    service.setLastRequest(local(5, 31));
+    service.setLastRequest(std::nullopt);
+    EXPECT_EQ(service.lastRequest(), local(5, 31));
+}
+
 } // namespace

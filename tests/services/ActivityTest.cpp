@@ -189,4 +189,14 @@ TEST_F(ActivityTest, WhatCannotBePrintedOrOpenedIsSaid)
     EXPECT_EQ(alertText(), "Open With: No program of this device can open a.pdf, https://example.org. OK");
 }
 
+TEST_F(ActivityTest, APictureIsCopiedAndSavedAsAPicture)
+{
+    shown({picture()}).choose(Copy);
+    EXPECT_EQ(device.pasteboardTwin->picture, picture());
+    shown({picture()}).choose(Save);
+    EXPECT_EQ(device.savedDocuments().back().name, QString("Shared.png"));
+    EXPECT_EQ(QImage::fromData(device.savedDocuments().back().content).convertToFormat(QImage::Format_RGB32),
+              picture());
+}
+
 } // namespace

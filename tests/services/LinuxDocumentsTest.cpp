@@ -125,4 +125,19 @@ TEST_F(LinuxDocumentsTest, EscapeCancels)
     EXPECT_EQ(shownDialog(), nullptr);
 }
 
+TEST_F(LinuxDocumentsTest, APlaceThatTakesNoFileIsAProblem)
+{
+    save("x");
+    enter("/proc/Shared.txt");
+    EXPECT_EQ(told, QStringList("problem"));
+}
+
+TEST_F(LinuxDocumentsTest, ANewDialogCancelsTheOpenOne)
+{
+    pick();
+    save("x");
+    EXPECT_EQ(told, QStringList("cancelled"));
+    EXPECT_EQ(shownDialog()->acceptMode(), QFileDialog::AcceptSave);
+}
+
 } // namespace

@@ -61,4 +61,13 @@ TEST(Fetch, answersTheSameObjectsInTheSameOrderWhateverIsHeld)
     }
 }
 
+TEST(Fetch, objectsOutliveTheirContext)
+{
+    auto store = std::make_unique<TestStore>();
+    const auto waiting = store->add(QStringLiteral("waiting"));
+    store.reset();
+    waiting->setText(Films::Title, QStringLiteral("changed"));
+    EXPECT_EQ(waiting->title(), QStringLiteral("waiting"));
+}
+
 } // namespace

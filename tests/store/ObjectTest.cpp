@@ -58,4 +58,14 @@ TEST(NSManagedObject, leavesBinaryValuesInTheStoreUntilAskedFor)
     EXPECT_EQ(TestStore::saved("SELECT COUNT(*) FROM Films_cover WHERE cover = x'6e6577'"), 1);
 }
 
+TEST(NSManagedObject, isNotChangedByTheValueItHas)
+{
+    TestStore store;
+    const auto film = store.add(QStringLiteral("Alien"), 1979);
+    ASSERT_TRUE(store.context->save());
+    film->setText(Films::Title, QStringLiteral("Alien"));
+    film->setDate(Films::Seen, defaultSeen.toLocalTime());
+    EXPECT_FALSE(store.context->hasChanges());
+}
+
 } // namespace

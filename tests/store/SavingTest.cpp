@@ -96,4 +96,12 @@ TEST(BulkSaves, relaxesSavesUntilTheRunEnds)
     EXPECT_EQ(strictness(), 2);
 }
 
+TEST(Saving, unsavedChangesAreSeenByFetchesOnly)
+{
+    TestStore store;
+    store.add(QStringLiteral("Alien"), 1979);
+    EXPECT_EQ(store.context->count(Films::fetchRequest()).value(), 1);
+    EXPECT_EQ(TestStore::saved("SELECT COUNT(*) FROM Films"), 0);
+}
+
 } // namespace

@@ -54,7 +54,7 @@ protected:
 
 struct ReportMember
 {
-    QString text, fileName;
+    QString text, fileName, returnScreen;
     std::unique_ptr<BreakdownTableViewController> (*make)();
 };
 
@@ -69,16 +69,17 @@ const QString movieTail =
     "Year: 1979\nActors: Ann,Bob,\nDirectors: Cy,Di\nProducer: Ed, Flo\nNotes: one\ntwo\n\uFFFC   \n\n";
 
 const ReportMember reportMembers[] = {
-    {"Movies Filtered by Genre: Horror\n\n" + movieHead + movieTail, "GenreMovieList.pdf",
+    {"Movies Filtered by Genre: Horror\n\n" + movieHead + movieTail, "GenreMovieList.pdf", "GenreBreakdown",
      makeScreen<GenreBreakdownTableViewController>},
     {"Movies Filtered by Year Released: 1979\n\n" + movieHead + movieTail, "YearReleasedMovieList.pdf",
-     makeScreen<DateReleasedBreakdownTableViewController>},
+     "DateReleasedBreakdown", makeScreen<DateReleasedBreakdownTableViewController>},
     {"Movies Filtered by Date Watched: March 2021\n\nDate Watched: March 2021\n" + movieHead + movieTail,
-     "YearReleasedMovieList.pdf", makeScreen<DateWatchedBreakdownTableViewController>},
+     "YearReleasedMovieList.pdf", "DateWatchedBreakdown",
+     makeScreen<DateWatchedBreakdownTableViewController>},
     {"Movies Filtered by Rating: R\n\n" + movieHead + "Rating: R\n" + movieTail, "GenreMovieList.pdf",
-     makeScreen<RatingBreakdownTableViewController>},
+     "RatingBreakdown", makeScreen<RatingBreakdownTableViewController>},
     {"Movies Filtered by Provider: Netflix\n\nProvider: Netflix\n" + movieHead + movieTail,
-     "GenreMovieList.pdf", makeScreen<ProviderBreakdownTableViewController>},
+     "GenreMovieList.pdf", "ProviderBreakdown", makeScreen<ProviderBreakdownTableViewController>},
 };
 
 TEST_F(ReportTest, EveryKindHasItsTextAndFile)
@@ -89,6 +90,8 @@ TEST_F(ReportTest, EveryKindHasItsTextAndFile)
         auto& screen = static_cast<BreakdownTableViewController&>(*navigation.topViewController());
         const QUrl file = share(screen);
         EXPECT_EQ(file.fileName(), expected.fileName);
+        screen.prepareForSegue({"Print", &screen, nullptr});
+        EXPECT_EQ(shared().ReturnScreen, expected.returnScreen);
         EXPECT_EQ(told, "wrote PDF file with multiple pages to: " + file.toLocalFile() + "\n");
         EXPECT_EQ(screen.MovieString.string(), expected.text);
         EXPECT_TRUE(screen.MovieString.runs().front().style.centred);

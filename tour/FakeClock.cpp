@@ -51,7 +51,10 @@ void FakeClock::advance(std::chrono::milliseconds step)
 }
 
 // The program's own definitions come before those of the C library, for Qt too.
-extern "C" int clock_gettime(clockid_t clock, timespec* now) noexcept
+extern "C" int readFakeClock(clockid_t clock, timespec* now) noexcept __asm__("clock_gettime");
+extern "C" int readFakeTimeOfDay(timeval* now, void* zone) noexcept __asm__("gettimeofday");
+
+int readFakeClock(clockid_t clock, timespec* now) noexcept
 {
     const long elapsed = milliseconds;
     if (elapsed == 0 || !(isCalendar(clock) || isMonotonic(clock)))
@@ -60,7 +63,7 @@ extern "C" int clock_gettime(clockid_t clock, timespec* now) noexcept
     return 0;
 }
 
-extern "C" int gettimeofday(timeval* __restrict now, void* __restrict /*zone*/) noexcept
+int readFakeTimeOfDay(timeval* now, void* /*zone*/) noexcept
 {
     timespec precise{};
     clock_gettime(CLOCK_REALTIME, &precise);

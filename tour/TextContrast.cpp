@@ -87,7 +87,7 @@ QStringList SceneProperties::faintTexts(QQuickWindow& window)
         const auto below = groundUnder(text.part.toRect(), ground, marked);
         if (!below || !text.item->isEnabled() || isExcepted(*text.item, SceneException::Property::Contrast))
             continue;
-        const QColor ink = text.item->property("color").value<QColor>();
+        const auto ink = text.item->property("color").value<QColor>();
         const double ratio = contrast(over(ink, effectiveOpacity(*text.item), *below), *below);
         if (ratio < leastContrast)
             faults.append(QString("%1 has a contrast of %2:1, %3 on %4")

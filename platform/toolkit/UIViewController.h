@@ -47,8 +47,8 @@ public:
     // Takes away what this screen presents; nothing presented: does nothing.
     void dismiss();
     [[nodiscard]] UIViewController* presentedViewController() const { return presented; }
-    // Whether the presenting screen can't be used until this is dismissed. False for what another program of the
-    // device takes over.
+    // Whether the presenting screen can't be used until this is dismissed. False for what another program of
+    // the device takes over.
     [[nodiscard]] virtual bool isModal() const { return true; }
     // Null unless this is presented by another.
     [[nodiscard]] UIViewController* presentingViewController() const { return presenting; }

@@ -19,8 +19,9 @@ TEST(FileWritingTest, WhatDoesNotFitLeavesTheOldFileAndTellsWhy)
     ASSERT_TRUE(writeAtomically("old", path).ok());
     for (const rlim_t most : {65536, 65535, 10, 3, 1, 0}) {
         const FullDisk disk(most);
-        for (const qsizetype size : {most + 1, rlim_t(1'000'000)}) {
-            EXPECT_EQ(problemOf(writeAtomically(QByteArray(size, 'x'), path)), "File too large")
+        for (const rlim_t size : {most + 1, rlim_t(1'000'000)}) {
+            EXPECT_EQ(problemOf(writeAtomically(QByteArray(static_cast<qsizetype>(size), 'x'), path)),
+                      "File too large")
                 << size << " of " << most;
             EXPECT_EQ(contentOf(path), "old") << size << " of " << most;
         }

@@ -16,7 +16,7 @@ void leaveFile(const QString& folder)
     ASSERT_TRUE(file.open(QFile::WriteOnly));
 }
 
-QStringList contentOf(const QString& folder)
+QStringList entriesOf(const QString& folder)
 {
     return QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
 }
@@ -56,13 +56,13 @@ TEST(TemporaryFolder, isTheUsersAloneAndGoesWithWhatIsInIt)
         for (const auto& place : {path, QFileInfo(path).path()})
             EXPECT_EQ(QFile::permissions(place) & others, QFile::Permissions()) << place.toStdString();
     }
-    EXPECT_EQ(contentOf(QFileInfo(path).path()), QStringList());
+    EXPECT_EQ(entriesOf(QFileInfo(path).path()), QStringList());
 }
 
 TEST(TemporaryFolder, takesAwayWhatKilledProgramsLeftAndLeavesTheOthers)
 {
     const auto left = killedProcessesFolder();
-    ASSERT_EQ(contentOf(left), QStringList(QStringLiteral("left")));
+    ASSERT_EQ(entriesOf(left), QStringList(QStringLiteral("left")));
     TemporaryFolder running;
     EXPECT_FALSE(QFileInfo::exists(left));
     leaveFile(running.path());
@@ -75,7 +75,7 @@ TEST(TemporaryFolder, takesAwayWhatKilledProgramsLeftAndLeavesTheOthers)
         ::_exit(0);
     }
     ::waitpid(other, nullptr, 0);
-    EXPECT_EQ(contentOf(running.path()), QStringList(QStringLiteral("left")));
+    EXPECT_EQ(entriesOf(running.path()), QStringList(QStringLiteral("left")));
 }
 
 } // namespace

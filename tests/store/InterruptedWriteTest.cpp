@@ -84,8 +84,8 @@ void expectWhole(const QByteArray& mainFile, const QByteArray& log, const std::s
         ASSERT_TRUE(number) << what << ": " << number.error().debugText().toStdString();
         EXPECT_EQ(number.value(), expected) << what;
     };
-    expectNumber("SELECT COUNT(*) FROM Films", 2 * savedFilms);
-    expectNumber("SELECT COUNT(*) FROM Films_cover", 2 * savedFilms);
+    expectNumber("SELECT COUNT(*) FROM Films", qint64{2} * savedFilms);
+    expectNumber("SELECT COUNT(*) FROM Films_cover", qint64{2} * savedFilms);
     expectNumber("SELECT COUNT(*) FROM pragma_integrity_check WHERE integrity_check = 'ok'", 1);
 }
 

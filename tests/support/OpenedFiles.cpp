@@ -53,9 +53,17 @@ QStringList OpenedFiles::paths() const
     return *noted;
 }
 
+// The program's own definitions come before those of the C library, for Qt too.
 extern "C" {
+int notedOpen(const char* path, int flags, ...) __asm__("open");
+int notedOpen64(const char* path, int flags, ...) __asm__("open64");
+int notedOpenat(int directory, const char* path, int flags, ...) __asm__("openat");
+int notedOpenat64(int directory, const char* path, int flags, ...) __asm__("openat64");
+FILE* notedFopen(const char* path, const char* mode) __asm__("fopen");
+FILE* notedFopen64(const char* path, const char* mode) __asm__("fopen64");
+}
 
-int open(const char* path, int flags, ...)
+int notedOpen(const char* path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
@@ -64,7 +72,7 @@ int open(const char* path, int flags, ...)
     return file;
 }
 
-int open64(const char* path, int flags, ...)
+int notedOpen64(const char* path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
@@ -73,7 +81,7 @@ int open64(const char* path, int flags, ...)
     return file;
 }
 
-int openat(int directory, const char* path, int flags, ...)
+int notedOpenat(int directory, const char* path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
@@ -82,7 +90,7 @@ int openat(int directory, const char* path, int flags, ...)
     return file;
 }
 
-int openat64(int directory, const char* path, int flags, ...)
+int notedOpenat64(int directory, const char* path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
@@ -91,13 +99,12 @@ int openat64(int directory, const char* path, int flags, ...)
     return file;
 }
 
-FILE* fopen(const char* path, const char* mode)
+FILE* notedFopen(const char* path, const char* mode)
 {
     return openStream(path, mode);
 }
 
-FILE* fopen64(const char* path, const char* mode)
+FILE* notedFopen64(const char* path, const char* mode)
 {
     return openStream(path, mode);
-}
 }

@@ -31,8 +31,8 @@ private:
     [[nodiscard]] bool isBehindDialog() const;
     [[nodiscard]] std::optional<Consequence> inPopup(const QString& name) const;
     [[nodiscard]] std::optional<Consequence> ofSaving() const;
-    [[nodiscard]] Consequence ofSavingValue(const QString& screenClass, const FormTexts& form) const;
-    [[nodiscard]] Consequence ofSavingMovie(const FormTexts& form) const;
+    [[nodiscard]] Consequence ofSavingValue(const QString& screenClass, const FormTexts& texts) const;
+    [[nodiscard]] Consequence ofSavingMovie(const FormTexts& texts) const;
     [[nodiscard]] std::optional<Consequence> ofKeyInList(Qt::Key key, const Seen& list) const;
     [[nodiscard]] FormTexts form() const;
 

@@ -1,7 +1,7 @@
 #include "tests/walk/Hand.h"
 
-#include "tour/FakeClock.h"
 #include "tour/AccessibleTree.h"
+#include "tour/FakeClock.h"
 
 #include <QtTest>
 
@@ -59,7 +59,7 @@ bool isMovingIn(const QQuickItem& item)
 
 bool Seen::isRow() const
 {
-    return role == QAccessible::ListItem && item && item->property("spokenName").isValid();
+    return role == QAccessible::ListItem && !item.isNull() && item->property("spokenName").isValid();
 }
 
 bool Seen::isPressable() const

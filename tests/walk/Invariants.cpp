@@ -137,7 +137,7 @@ void Invariants::checkUncoveredRow(const std::vector<Seen>& all)
         isUncovered = true;
         const QString text = row->property("spokenName").toString();
         if (text != state.uncoveredRow())
-            throw WalkFailure("\"delete\" stands on \"" + text + "\", uncovered was \"" +
+            throw WalkFailure(R"("delete" stands on ")" + text + R"(", uncovered was ")" +
                               state.uncoveredRow() + '"');
     }
     if (!isUncovered && !hasPopup(all))

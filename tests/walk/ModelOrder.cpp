@@ -8,7 +8,7 @@ using Content = ModelListKind::Content;
 
 int compareNumbers(qint64 left, qint64 right)
 {
-    return (left > right) - (left < right);
+    return left < right ? -1 : left > right ? 1 : 0;
 }
 
 qint64 watchedNumber(const ModelFilm& film)
@@ -43,9 +43,8 @@ int compareFilms(const ModelFilm& left, const ModelFilm& right, const ModelScene
 int compareTexts(const std::optional<QString>& left, const std::optional<QString>& right)
 {
     if (!left || !right)
-        return static_cast<int>(left.has_value()) - static_cast<int>(right.has_value());
-    const int order = left->toUtf8().compare(right->toUtf8());
-    return (order > 0) - (order < 0);
+        return compareNumbers(left ? 1 : 0, right ? 1 : 0);
+    return compareNumbers(left->toUtf8().compare(right->toUtf8()), 0);
 }
 
 void sortFilms(std::vector<FilmPointer>& films, const ModelScene& scene)

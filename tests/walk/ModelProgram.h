@@ -92,7 +92,7 @@ private:
     void load(ModelScene& scene);
     [[nodiscard]] ModelPrint printOpenedFrom(const ModelScene* list) const;
     void keepTexts();
-    void write(ModelFilm& film, const FormTexts& form, const ModelEditor& editor);
+    void write(ModelFilm& film, const FormTexts& form, const ModelEditor& open);
     void importLine(const QStringList& fields);
 
     std::map<int, ModelScene> lists;

@@ -1,8 +1,8 @@
 #include "tests/walk/WalkProcess.h"
 
-#include "tour/FakeClock.h"
 #include "tests/walk/Walk.h"
 #include "tour/AccessibleListener.h"
+#include "tour/FakeClock.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -137,7 +137,7 @@ std::vector<Step> shrunkSteps(unsigned seed, std::vector<Step> failing, int seco
     QElapsedTimer clock;
     clock.start();
     for (std::size_t part = std::max<std::size_t>(failing.size() / 2, 1); part > 0; part /= 2)
-        for (std::size_t from = 0; from < failing.size() && clock.elapsed() < 1000 * seconds;) {
+        for (std::size_t from = 0; from < failing.size() && clock.elapsed() < 1000LL * seconds;) {
             const std::size_t to = std::min(from + part, failing.size());
             std::vector<Step> shorter(failing.begin(), failing.begin() + static_cast<std::ptrdiff_t>(from));
             shorter.insert(shorter.end(), failing.begin() + static_cast<std::ptrdiff_t>(to), failing.end());

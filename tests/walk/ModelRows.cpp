@@ -12,7 +12,7 @@ QString longDate(const QDateTime& moment)
 
 } // namespace
 
-QString peopleOnOneLine(QString people)
+QString namesOnOneLine(QString people)
 {
     people.replace('\n', ',');
     if (people.endsWith(','))
@@ -59,7 +59,7 @@ QString groupMovieRowText(const ModelFilm& film, const ModelListKind& kind)
     }
     return first + "\n " + film.name.value_or("") + afterName +
            "  Run Time: " + QString::number(film.runTime) +
-           " min.\nActors: " + peopleOnOneLine(film.actors.value_or(""));
+           " min.\nActors: " + namesOnOneLine(film.actors.value_or(""));
 }
 
 QString groupRowText(const QString& label, qsizetype count)

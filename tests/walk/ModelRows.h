@@ -6,7 +6,7 @@
 [[nodiscard]] QString movieRowText(const ModelFilm& film, MovieKey key);
 [[nodiscard]] QString groupMovieRowText(const ModelFilm& film, const ModelListKind& kind);
 // Actors and the like, as rows and reports show them.
-[[nodiscard]] QString peopleOnOneLine(QString people);
+[[nodiscard]] QString namesOnOneLine(QString people);
 [[nodiscard]] QString groupRowText(const QString& label, qsizetype count);
 
 // What a search for `text` goes through.

@@ -12,7 +12,7 @@ QString line(const QString& label, const std::optional<QString>& text)
 
 QString peopleLine(const QString& label, const std::optional<QString>& people)
 {
-    return people ? line(label, peopleOnOneLine(*people)) : QString();
+    return people ? line(label, namesOnOneLine(*people)) : QString();
 }
 
 QString onExchangeLine(const std::optional<QString>& people)

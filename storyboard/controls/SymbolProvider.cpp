@@ -36,10 +36,11 @@ SymbolProvider::SymbolProvider()
 QImage SymbolProvider::requestImage(const QString& id, QSize* size, const QSize& requestedSize)
 {
     const QString name = id.section(QLatin1Char('?'), 0, 0);
-    const QColor color(id.section(QLatin1Char('?'), 1));
+    bool isTinted = false;
+    const QRgb color = id.section(QLatin1Char('?'), 1).toUInt(&isTinted);
     QImage symbol = drawnSymbol(name, requestedSize.isValid() ? requestedSize : defaultSymbolSize);
-    if (color.isValid())
-        tint(symbol, color);
+    if (isTinted)
+        tint(symbol, QColor::fromRgba(color));
     if (size != nullptr)
         *size = symbol.size();
     return symbol;

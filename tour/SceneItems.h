@@ -21,7 +21,7 @@ namespace SceneItems {
 
 // Everything in sight; while a popup is open, only what it holds.
 [[nodiscard]] std::vector<SceneItem> inSight(const QQuickWindow& window);
-// What the text draws: its own text, or what is typed into it.
+// The text that is drawn: its own text, or what is typed into it.
 [[nodiscard]] QString textOf(const QQuickItem& text);
 // Whether the user presses it or types into it.
 [[nodiscard]] bool isControl(QQuickItem& item);

@@ -18,8 +18,8 @@ class UIDatePicker : public UIView
     Q_PROPERTY(int day READ day NOTIFY changed FINAL)
     // In the user's locale, such as "Mar 5, 2021".
     Q_PROPERTY(QString dateText READ dateText NOTIFY changed FINAL)
-    // Of `Component`: year, month and day as the locale's short date format orders them, such as month, day,
-    // year.
+    // Values of `Component`: year, month and day as the locale's short date format orders them, such as
+    // month, day, year.
     Q_PROPERTY(QList<int> componentOrder READ componentOrder CONSTANT FINAL)
     Q_PROPERTY(Style preferredDatePickerStyle READ preferredDatePickerStyle NOTIFY changed FINAL)
     Q_PROPERTY(double width READ width NOTIFY changed FINAL)

@@ -41,7 +41,7 @@ public:
 
 // A scrolling list of rows, made only as they come into sight: the role `cell` asks the data source.
 //
-// What the user does to a row names it by its key, the role `rowKey`, because a position holds another record
+// Each user action on a row names it by its key, the role `rowKey`, because a position holds another record
 // once the table has reloaded. A key is the row's until the next reload or until the row is deleted, and is
 // never used again. An unknown key does nothing.
 class UITableView : public QAbstractListModel

@@ -43,7 +43,7 @@ Q_SIGNALS:
     void editingChanged();
 
 protected:
-    // What a text that is put in becomes in this view.
+    // Returns the form that an inserted text takes in this view.
     [[nodiscard]] virtual QString fitted(const QString& text) const { return text; }
     // Returns what the layout's editor makes of `character`. Where it makes a line feed of a carriage return,
     // it makes one of both together.

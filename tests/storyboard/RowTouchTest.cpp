@@ -7,7 +7,7 @@ namespace {
 constexpr int movieCount = 30;
 constexpr QPoint nowhere;
 
-// What is done from the middle of the third row, and what holds afterwards.
+// A gesture that begins in the middle of the third row, and the expected result.
 struct RowGesture
 {
     std::string name;

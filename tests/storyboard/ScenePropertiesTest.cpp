@@ -103,7 +103,7 @@ const struct
 } looks[] = {{american, {false, true}}, {german, {false}}, {persian, {true}}};
 constexpr QSize sizes[] = {{360, 640}, {820, 1180}, {1440, 900}};
 
-// What the program shows, and how to get there from the home menu.
+// A state of the program, and how to get there from the home menu.
 struct State
 {
     std::string name;

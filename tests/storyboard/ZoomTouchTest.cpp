@@ -4,7 +4,7 @@
 
 namespace {
 
-// What is done around the middle of the cover, and how that is scaled and moved afterwards.
+// A gesture around the middle of the cover, and the expected scale and place afterwards.
 struct ZoomGesture
 {
     std::string name;

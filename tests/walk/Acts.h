@@ -4,7 +4,7 @@
 #include "tests/walk/RowActs.h"
 #include "tests/walk/Taps.h"
 
-// What a step means in front of the present window: does it, and changes the model as it should change the
+// Takes a step in front of the present window: does it, and changes the model as it should change the
 // program.
 class Acts
 {

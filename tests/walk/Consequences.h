@@ -7,7 +7,7 @@
 // Changes the model as an act should change the program; empty: not at all.
 using Consequence = std::function<void()>;
 
-// What follows from the user's acts, by the screen in front and the control's name.
+// The expected effects of the user's acts, by the screen in front and the control's name.
 class Consequences
 {
 public:

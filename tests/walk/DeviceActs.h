@@ -3,7 +3,7 @@
 #include "tests/walk/Consequences.h"
 #include "tests/walk/Step.h"
 
-// What happens outside the window: the desktop's dialogs are answered, the device changes. Each says what was
+// Events outside the window: the desktop's dialogs are answered, the device changes. Each says what was
 // done; empty: nothing.
 class DeviceActs
 {

@@ -33,7 +33,7 @@ Seen seenOf(QAccessibleInterface& seen, QQuickItem& item, const QSize& window)
     return found;
 }
 
-// What a spinner turns over can't be touched.
+// A control below a spinner can't be touched.
 void coverBySpinners(std::vector<Seen>& all)
 {
     QList<QRect> covered;

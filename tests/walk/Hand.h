@@ -17,7 +17,7 @@ struct Seen
     QString name;
     QAccessible::State state;
     QRect place;
-    // What nothing cuts off; empty: out of sight.
+    // The part that nothing cuts off; empty: out of sight.
     QRect part;
     bool inPopup = false;
 
@@ -38,7 +38,7 @@ public:
 
     // Everything that is not hidden; while a popup is open, only what it holds.
     [[nodiscard]] std::vector<Seen> look() const;
-    // What `look` finds and can be touched.
+    // Returns everything that `look` finds and that can be touched.
     [[nodiscard]] std::vector<Seen> inSight() const;
     [[nodiscard]] std::vector<Seen> rowsInSight() const;
 

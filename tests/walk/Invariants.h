@@ -2,7 +2,7 @@
 
 #include "tests/walk/SentOut.h"
 
-// What holds after every step of any walk. Each check throws WalkFailure.
+// The properties that hold after every step of any walk. Each check throws WalkFailure.
 class Invariants
 {
 public:

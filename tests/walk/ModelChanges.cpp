@@ -1,11 +1,11 @@
-// What the acts that change the catalogue store.
+// The acts that change the stored catalogue.
 #include "tests/walk/ModelProgram.h"
 
 #include <QRegularExpression>
 
 namespace {
 
-// What a new movie holds before anything is written.
+// A new movie holds this before anything is written.
 const QDate defaultWatchDay(2001, 1, 1);
 
 ModelFilm newFilm()
@@ -142,7 +142,7 @@ void ModelProgram::importLine(const QStringList& fields)
     }
     if (!fields.value(1).isEmpty())
         film.watched.reset();
-    // What is no number reads 0; a new movie with such a line would end the program.
+    // A text that is no number reads 0; a new movie with such a line would end the program.
     if (!fields.value(8).isEmpty())
         film.runTime = fields[8].toShort();
     if (!fields.value(9).isEmpty())

@@ -5,7 +5,7 @@
 #include <QHash>
 #include <map>
 
-// What an editor's fields show, by their labels.
+// The texts of an editor's fields, by their labels.
 using FormTexts = QHash<QString, QString>;
 
 // An open movie editor.
@@ -24,11 +24,11 @@ struct ModelPrint
 {
     std::vector<FilmPointer> films;
     std::optional<QString> title;
-    // What was created so far.
+    // Everything created so far.
     QString text;
 };
 
-// What the program should hold and show after each act of its user, as far as the catalogue and the lists go.
+// The expected state of the program after each act of its user, as far as the catalogue and the lists go.
 // Screens go by numbers that are never used again.
 class ModelProgram
 {

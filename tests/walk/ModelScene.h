@@ -4,7 +4,7 @@
 
 #include <QSet>
 
-// What tells one list from another: a row of the one table `listKinds`.
+// The differences between lists: a row of the one table `listKinds`.
 struct ModelListKind
 {
     enum class Content { Movies, TextGroups, YearGroups, MonthGroups, MoviesOfGroup, Values };
@@ -15,7 +15,7 @@ struct ModelListKind
     // Where the text that a group goes by stands; null for the others.
     std::optional<QString> ModelFilm::*groupText = nullptr;
     ValueList values = ValueList::Genres;
-    // What ReturnScreen says when an editor is opened from here.
+    // The value of ReturnScreen when an editor is opened from here.
     QString returnScreen = {};
 };
 
@@ -25,7 +25,8 @@ struct ModelListKind
 // The order in which a movie list stands and what its search looks at.
 enum class MovieKey { Name, Genre, Year, Rating };
 
-// What a list screen shows. Rows once drawn may show what they were drawn with until the list is reloaded.
+// The content of a list screen. Rows once drawn may show what they were drawn with until the list is
+// reloaded.
 struct ModelScene
 {
     const ModelListKind* kind = nullptr;
@@ -40,7 +41,7 @@ struct ModelScene
     QStringList keys;
     QStringList filteredKeys;
     std::vector<ValuePointer> values;
-    // What the group of a list of its movies goes by.
+    // The value that all movies of a group's list share.
     QString chosenText;
     int chosenYear = 0;
     int chosenMonth = 0;

@@ -2,7 +2,7 @@
 
 #include "tests/walk/ModelCatalogue.h"
 
-// What leaves the program as text.
+// The texts that leave the program.
 
 // A list of movies as it is printed; a picture is one object replacement character. `title`: of the list's
 // group.

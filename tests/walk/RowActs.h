@@ -3,7 +3,7 @@
 #include "tests/walk/Consequences.h"
 #include "tests/walk/Step.h"
 
-// What is done to a row besides a tap. Says what was done; empty: nothing.
+// Acts on a row besides a tap. Returns what was done; empty: nothing.
 class RowActs
 {
 public:

@@ -23,7 +23,8 @@ public:
     {
     }
 
-    // What came and went since the last call, closings first; openings from the bottom to the top.
+    // Returns the screens that came and went since the last call, closings first; openings from the bottom to
+    // the top.
     [[nodiscard]] std::vector<Change> follow();
 
     // The screen that the user is in front of, within the tabs where there are some.
@@ -32,7 +33,7 @@ public:
     [[nodiscard]] QString topClass() const { return classOf(top()); }
     // How many steps back it is to the first screen of all.
     [[nodiscard]] int depth() const;
-    // What the screen shows on top of itself, the last if several; null: nothing.
+    // Returns the controller presented on top of the screen, the last if several; null: nothing.
     [[nodiscard]] UIViewController* presented() const;
 
 private:

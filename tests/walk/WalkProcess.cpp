@@ -12,7 +12,7 @@
 
 namespace {
 
-// What a walk writes into its pipe: a line for each step begun, one for what it did, one for a failure.
+// A walk writes lines into its pipe: one for each step begun, one for what it did, one for a failure.
 constexpr char begunMark = '#';
 constexpr char doneMark = '+';
 constexpr char failureMark = '!';

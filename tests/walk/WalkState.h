@@ -50,7 +50,7 @@ struct WalkState
 
     // By screen: the text of the row that the user uncovered.
     QHash<int, QString> uncoveredRows;
-    // What "Load File" has loaded.
+    // The text that "Load File" has loaded.
     QString loadedText;
     // The screen that the last act must have closed; 0: none.
     int mustBeGone = 0;

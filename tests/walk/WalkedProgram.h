@@ -21,7 +21,7 @@ public:
     [[nodiscard]] MainWindow& window() { return *mainWindow; }
     // The lines written to the console since the last call.
     [[nodiscard]] QStringList consoleLines();
-    // What "Load File" finds: movies of the catalogue and others.
+    // The file that "Load File" finds: movies of the catalogue and others.
     [[nodiscard]] const QString& exchangeText() const { return exchange; }
     [[nodiscard]] QString path(const QString& file) const { return home.path(file); }
 

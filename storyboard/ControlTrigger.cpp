@@ -14,7 +14,6 @@ QMetaMethod ControlTrigger::slot()
 
 void ControlTrigger::pull()
 {
-    const UIViewController* presented = screen.presentedViewController();
-    if (presented == nullptr || !presented->isModal())
+    if (screen.isFrontmost())
         act();
 }

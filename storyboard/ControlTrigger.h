@@ -5,9 +5,9 @@
 #include <QMetaMethod>
 #include <functional>
 
-// Calls `act` whenever its slot is called, unless the screen presents something modal: then the control lies
-// behind that, where a second tap or assistive technology still reaches it. Lives as long as the control; the
-// screen must outlive both.
+// Calls `act` whenever its slot is called while the screen is frontmost. A control that lies behind something
+// modal, or whose layout slides away, is still reached by a second tap or by assistive technology. Lives as
+// long as the control; the screen must outlive both.
 class ControlTrigger : public QObject
 {
     Q_OBJECT

@@ -46,6 +46,13 @@ UITabBarController* UIViewController::tabBarController() const
     return navigation == nullptr ? nullptr : qobject_cast<UITabBarController*>(navigation->host());
 }
 
+bool UIViewController::isFrontmost() const
+{
+    const bool onTop = navigation != nullptr && navigation->topViewController() == this;
+    const bool covered = presented != nullptr && presented->isModal();
+    return onTop && !covered && (navigation->host() == nullptr || navigation->host()->isFrontmost());
+}
+
 bool UIViewController::canGoBack() const
 {
     return navigation != nullptr && navigation->rootViewController() != this;

@@ -65,6 +65,10 @@ public:
     // The tab bar among whose tabs this screen stands; null: none.
     [[nodiscard]] UITabBarController* tabBarController() const;
 
+    // Whether the user works with this screen: it is the top of its stack, as is every screen around that
+    // stack, and nothing modal lies above it.
+    [[nodiscard]] bool isFrontmost() const;
+
     // Whether another screen of the container lies below this one.
     [[nodiscard]] bool canGoBack() const;
     // What the back button does; nothing where there is no way back.

@@ -65,6 +65,8 @@ Item {
                 });
         }
 
+        onLoaded: (item as PresentationHost).finished.connect(host.finished)
+
         Connections {
             target: host
 

@@ -48,9 +48,11 @@ UITabBarController* UIViewController::tabBarController() const
 
 bool UIViewController::isFrontmost() const
 {
+    for (const UIViewController* above = presented; above != nullptr; above = above->presented)
+        if (above->isModal())
+            return false;
     const bool onTop = navigation != nullptr && navigation->topViewController() == this;
-    const bool covered = presented != nullptr && presented->isModal();
-    return onTop && !covered && (navigation->host() == nullptr || navigation->host()->isFrontmost());
+    return onTop && (navigation->host() == nullptr || navigation->host()->isFrontmost());
 }
 
 bool UIViewController::canGoBack() const

@@ -38,6 +38,7 @@ void PrintMoviesViewController::viewDidLoad()
     FileTextView->setLayer({.cornerRadius = 5, .borderWidth = 1, .borderColor = QColor()});
     FileTextView->setEditable(false);
     FileTextView->setText({});
+    caller = shared().ReturnScreen;
     const auto request = printRequest();
     if (!request)
         return;
@@ -73,7 +74,7 @@ void PrintMoviesViewController::CreateFileClick()
 
 void PrintMoviesViewController::appendMovies()
 {
-    if (shared().ReturnScreen == QStringLiteral("GenreBreakdown"))
+    if (caller == QStringLiteral("GenreBreakdown"))
         appendReportTitle(MovieString,
                           genreReport().titleText + genreReport().titleValue(*MovieList.front()));
     else

@@ -46,4 +46,7 @@ private:
     [[nodiscard]] bool hasMovies();
     void appendMovies();
     void print();
+
+    // Kept, because a screen of another tab may set the shared one meanwhile.
+    QString caller;
 };

@@ -106,8 +106,13 @@ void Invariants::checkList(const std::vector<Seen>& all) const
     // Typing the text over with itself searches again, which may find others than before.
     if (!hasHeader() && !list->search.isEmpty())
         list->filter();
-    if (!hasHeader())
-        throw WalkFailure("No header \"" + list->header() + '"');
+    if (!hasHeader()) {
+        QStringList texts;
+        for (const Seen& seen : all)
+            if (seen.role == QAccessible::StaticText)
+                texts.append(seen.name);
+        throw WalkFailure("No header \"" + list->header() + "\" among: " + texts.join(" | "));
+    }
     checkRows(*list, all);
 }
 

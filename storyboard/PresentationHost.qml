@@ -10,6 +10,7 @@ Item {
     required property UIViewController presenter
     readonly property UIViewController presented: presenter !== null ? presenter.presentedViewController : null
     property var shown: null
+    property bool isPresenting: false
 
     signal finished
 
@@ -19,8 +20,9 @@ Item {
             wasShown.close();
         host.shown = null;
         // Nothing of its own to close: the keyboard comes back as soon as what stood above is gone, too.
-        if (wasShown === null && host.presented === null)
+        if (wasShown === null && host.isPresenting && host.presented === null)
             finishing.start();
+        host.isPresenting = host.presented !== null;
         const kind = host.stage.presentation(host.presented);
         if (kind === "alert")
             host.show("Alert.qml", {

@@ -1,6 +1,9 @@
 #include "platform/foundation/FileWriting.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -34,6 +37,19 @@ Status replaceAtomically(const QString& path, FileReaders readers,
     if (written && !file.commit())
         return errorOf(file);
     return written;
+}
+
+Status syncFolderOf(const QString& path)
+{
+    const QByteArray folder = QFile::encodeName(QFileInfo(path).path());
+    const int opened = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const bool isSynced = opened >= 0 && ::fsync(opened) == 0;
+    if (opened >= 0)
+        ::close(opened);
+    if (isSynced)
+        return success();
+    return NSError{QStringLiteral("The folder could not be brought to the disk."),
+                   {{QStringLiteral("path"), QFileInfo(path).path()}}};
 }
 
 // A disk that fills up takes a part first; only the next attempt says why.

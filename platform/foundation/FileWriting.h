@@ -18,5 +18,8 @@ enum class FileReaders { AsUsual, OwnerOnly };
 [[nodiscard]] Status replaceAtomically(const QString& path, FileReaders readers,
                                        const std::function<Status(QFileDevice&)>& write);
 
+// Makes sure that the names in the folder of `path` survive a loss of power as they are now.
+[[nodiscard]] Status syncFolderOf(const QString& path);
+
 // Writes all of `content` to `file`, which must be open.
 [[nodiscard]] Status writeAll(QFileDevice& file, QByteArrayView content);

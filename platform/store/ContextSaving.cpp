@@ -4,11 +4,18 @@
 #include "platform/store/EntityTable.h"
 #include "platform/store/NSManagedObjectContext.h"
 
-Status NSManagedObjectContext::flush()
+namespace {
+
+constexpr std::chrono::milliseconds noPatience(0);
+constexpr std::chrono::milliseconds savePatience(500);
+
+} // namespace
+
+Status NSManagedObjectContext::flush(std::chrono::milliseconds patience)
 {
     noticeRollback();
     while (const auto object = unsaved.next()) {
-        if (const auto begun = begin(); !begun)
+        if (const auto begun = begin(patience); !begun)
             return begun;
         if (const auto written = requireTable(object->entity().name).write(*object); !written) {
             noticeRollback();
@@ -20,29 +27,59 @@ Status NSManagedObjectContext::flush()
 }
 
 // What the store refuses, on a full disk for one, stays unsaved and unseen: better than a list that shows
-// nothing.
+// nothing, and better than one that waits for another program's lock.
 void NSManagedObjectContext::flushIfPossible()
 {
-    if (const auto flushed = flush(); !flushed)
+    if (refused.any())
+        return;
+    if (const auto flushed = flush(noPatience); !flushed)
         console(flushed.error().localizedDescription);
 }
 
-Status NSManagedObjectContext::begin()
+Status NSManagedObjectContext::begin(std::chrono::milliseconds patience)
 {
     if (transactionOpen)
         return success();
     if (const auto set = setRelaxed(bulkScopes > 0); !set)
         return set;
+    database->setPatience(patience);
     const auto begun = database->run("BEGIN IMMEDIATE");
+    database->setPatience(savePatience);
     transactionOpen = begun.ok();
     return begun;
 }
 
 Status NSManagedObjectContext::save()
 {
+    return attemptSave(refused.any() ? noPatience : savePatience);
+}
+
+Status NSManagedObjectContext::trySave()
+{
+    return attemptSave(noPatience);
+}
+
+Status NSManagedObjectContext::attemptSave(std::chrono::milliseconds patience)
+{
     if (!hasChanges())
         return success();
-    if (const auto flushed = flush(); !flushed)
+    if (!refused.isAttemptDue(changeCount()))
+        return refused.error();
+    Status saved = place.check(*database);
+    if (saved)
+        saved = writeAndCommit(patience);
+    if (saved)
+        refused.clear();
+    else if (bulkScopes > 0)
+        refused.note(saved.error(), changeCount());
+    for (const auto& handler : saveHandlers)
+        handler(saved);
+    return saved;
+}
+
+Status NSManagedObjectContext::writeAndCommit(std::chrono::milliseconds patience)
+{
+    if (const auto flushed = flush(patience); !flushed)
         return flushed;
     if (transactionOpen) {
         if (const auto committed = database->run("COMMIT"); !committed) {
@@ -90,6 +127,18 @@ Status NSManagedObjectContext::setRelaxed(bool relaxed)
     const auto set = database->run(relaxed ? "PRAGMA synchronous = NORMAL" : "PRAGMA synchronous = FULL");
     isRelaxed = set ? relaxed : isRelaxed;
     return set;
+}
+
+// What was refused last may have room again.
+void NSManagedObjectContext::endBulkScope()
+{
+    --bulkScopes;
+    if (bulkScopes == 0 && refused.any()) {
+        refused.clear();
+        // Ignored: the save handler is called with the outcome.
+        (void)trySave().ok();
+    }
+    endRelaxed();
 }
 
 // A checkpoint brings the log to the disk before it copies it, and so makes the relaxed saves durable.

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int busyTimeoutMilliseconds = 5000;
+constexpr std::chrono::seconds firstPatience(5);
 
 NSError sqliteError(sqlite3* handle)
 {
@@ -124,7 +124,7 @@ Result<std::unique_ptr<Database>> Database::open(const QString& path, Access acc
     if (code != SQLITE_OK)
         return sqliteError(handle);
     if (access != Access::Alone) {
-        sqlite3_busy_timeout(handle, busyTimeoutMilliseconds);
+        database->setPatience(firstPatience);
         return database;
     }
     database->setCheckpointsOnClose(false);
@@ -172,6 +172,23 @@ qint64 Database::lastInsertId() const
 bool Database::isReadOnly() const
 {
     return sqlite3_db_readonly(handle.get(), "main") == 1;
+}
+
+QString Database::path() const
+{
+    return QString::fromUtf8(sqlite3_db_filename(handle.get(), "main"));
+}
+
+bool Database::isMovedAway() const
+{
+    int moved = 0;
+    return sqlite3_file_control(handle.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved) == SQLITE_OK &&
+           moved != 0;
+}
+
+void Database::setPatience(std::chrono::milliseconds longest)
+{
+    sqlite3_busy_timeout(handle.get(), static_cast<int>(longest.count()));
 }
 
 bool Database::isBusy(const NSError& error)

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <unordered_map>
@@ -83,8 +84,8 @@ class Database
 {
 public:
     enum class Access {
-        // Reads and writes, and makes the file when it is missing. Another writer is waited for, a few
-        // seconds.
+        // Reads and writes, and makes the file when it is missing. Waits for another writer, at first for
+        // five seconds (`setPatience`).
         ReadWrite,
         // Reads the file as it lies there, without its log; takes no lock and leaves no trace. Only a file
         // without a log is sure to be whole.
@@ -108,6 +109,12 @@ public:
     [[nodiscard]] bool inTransaction() const;
     [[nodiscard]] qint64 lastInsertId() const;
     [[nodiscard]] bool isReadOnly() const;
+    // The absolute path that was opened.
+    [[nodiscard]] QString path() const;
+    // Whether that path now leads to another file or to none.
+    [[nodiscard]] bool isMovedAway() const;
+    // How long a statement waits for another connection's lock before it fails.
+    void setPatience(std::chrono::milliseconds longest);
     // Whether `error` came of another connection's lock.
     [[nodiscard]] static bool isBusy(const NSError& error);
     // Whether closing the last connection moves the log into the file (it does) or leaves both as they are.

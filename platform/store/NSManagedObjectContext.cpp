@@ -6,6 +6,7 @@
 NSManagedObjectContext::NSManagedObjectContext(const NSManagedObjectModel& model,
                                                std::unique_ptr<Database> opened)
     : database(std::move(opened))
+    , place(database->path())
 {
     for (const auto& entity : model.entities)
         tables.push_back(std::make_unique<EntityTable>(entity, *this, *database));

@@ -5,6 +5,8 @@
 #include "platform/store/NSFetchRequest.h"
 #include "platform/store/NSManagedObject.h"
 #include "platform/store/NSManagedObjectModel.h"
+#include "platform/store/RefusedSaves.h"
+#include "platform/store/StorePlace.h"
 #include "platform/store/UnsavedChanges.h"
 
 class Database;
@@ -20,6 +22,7 @@ class NSManagedObjectContext
 {
 public:
     class BulkSaves;
+    using SaveHandler = std::function<void(const Status&)>;
 
     // The model must outlive the context and its objects.
     NSManagedObjectContext(const NSManagedObjectModel& model, std::unique_ptr<Database> opened);
@@ -44,9 +47,17 @@ public:
     void deleteObject(const std::shared_ptr<NSManagedObject>& object);
 
     [[nodiscard]] bool hasChanges() const { return !unsaved.isEmpty(); }
+    // How many objects wait for a save.
+    [[nodiscard]] std::size_t changeCount() const { return unsaved.count(); }
     // Without changes this does nothing. A saved change survives the end of the process, and the loss of
-    // power.
+    // power. Waits for another program's lock for at most half a second. Fails with `isStoreReplaced` when
+    // the file at the store's path is no longer the one that is open.
     [[nodiscard]] Status save();
+    // The same, but waits for no lock.
+    [[nodiscard]] Status trySave();
+
+    // Calls `handler` after each attempt to save, with its outcome, for as long as the context lives.
+    void addSaveHandler(SaveHandler handler) { saveHandlers.push_back(std::move(handler)); }
 
 private:
     friend class NSManagedObject;
@@ -60,12 +71,15 @@ private:
 
     [[nodiscard]] Status collect(const NSFetchRequest& request, const Sink& sink);
     [[nodiscard]] EntityTable& requireTable(const QString& entityName) const;
-    [[nodiscard]] Status flush();
+    [[nodiscard]] Status attemptSave(std::chrono::milliseconds patience);
+    [[nodiscard]] Status writeAndCommit(std::chrono::milliseconds patience);
+    [[nodiscard]] Status flush(std::chrono::milliseconds patience);
     void flushIfPossible();
-    [[nodiscard]] Status begin();
+    [[nodiscard]] Status begin(std::chrono::milliseconds patience);
     void noticeRollback();
     void settle();
     [[nodiscard]] Status setRelaxed(bool relaxed);
+    void endBulkScope();
     void endRelaxed();
 
     std::unique_ptr<Database> database;
@@ -74,11 +88,17 @@ private:
     bool transactionOpen = false;
     int bulkScopes = 0;
     bool isRelaxed = false;
+    // Within a bulk scope only.
+    RefusedSaves refused;
+    StorePlace place;
+    std::vector<SaveHandler> saveHandlers;
 };
 
 // For a run of very many saves. While it lives a save survives the end of the process, but perhaps not the
 // loss of power; when it ends, the whole run is made to survive that too (when changes are left unsaved: with
-// their save). The context outlives it.
+// their save). Once the store has refused a save, the run waits for no lock any more, and tries what waits
+// again only when twice as many changes wait: a run of refused saves takes linear time. The context outlives
+// it.
 class NSManagedObjectContext::BulkSaves
 {
 public:
@@ -87,11 +107,7 @@ public:
     {
         ++context.bulkScopes;
     }
-    ~BulkSaves()
-    {
-        --context.bulkScopes;
-        context.endRelaxed();
-    }
+    ~BulkSaves() { context.endBulkScope(); }
     BulkSaves(const BulkSaves&) = delete;
     BulkSaves& operator=(const BulkSaves&) = delete;
 

@@ -2,6 +2,7 @@
 
 #include "platform/store/Database.h"
 #include "platform/store/StoreFile.h"
+#include "platform/store/StoreRest.h"
 
 #include <QDir>
 #include <QStandardPaths>
@@ -11,6 +12,9 @@ NSPersistentContainer::NSPersistentContainer(QString name, const NSManagedObject
     , managedObjectModel(model)
 {
 }
+
+// The context's connection is closed before the store comes to rest for the last time.
+NSPersistentContainer::~NSPersistentContainer() = default;
 
 QString NSPersistentContainer::defaultDirectory() const
 {
@@ -25,6 +29,8 @@ Status NSPersistentContainer::loadPersistentStores(const QString& directory)
     if (!opened)
         return opened.error();
     context = std::make_unique<NSManagedObjectContext>(managedObjectModel, std::move(opened).value());
+    rest = std::make_unique<StoreRest>(path);
+    context->addSaveHandler([this](const Status& saved) { rest->noteSave(saved); });
     return success();
 }
 

@@ -2,13 +2,18 @@
 
 #include "platform/store/NSManagedObjectContext.h"
 
+class StoreRest;
+
 // A store file and the context through which everything in it is read and written. The model outlives the
-// container.
+// container. While it lives, and when it is destroyed, the log is moved into the file as `StoreRest` says.
 class NSPersistentContainer
 {
 public:
     // Also the name of the file, <name>.sqlite.
     NSPersistentContainer(QString name, const NSManagedObjectModel& model);
+    ~NSPersistentContainer();
+    NSPersistentContainer(const NSPersistentContainer&) = delete;
+    NSPersistentContainer& operator=(const NSPersistentContainer&) = delete;
 
     // Opens the file in `directory`, or makes both, readable by their owner alone, and brings an older file
     // to the model's version. When it cannot be opened, is no store of this model, or was made by a newer
@@ -27,5 +32,6 @@ public:
 private:
     QString containerName;
     const NSManagedObjectModel& managedObjectModel;
+    std::unique_ptr<StoreRest> rest;
     std::unique_ptr<NSManagedObjectContext> context;
 };

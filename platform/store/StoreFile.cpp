@@ -2,6 +2,7 @@
 
 #include "platform/store/Database.h"
 #include "platform/store/Migrations.h"
+#include "platform/store/StoreGeneration.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +12,8 @@ namespace {
 
 constexpr auto ownerOnlyFile = QFile::ReadOwner | QFile::WriteOwner;
 constexpr auto ownerOnlyDirectory = ownerOnlyFile | QFile::ExeOwner;
+constexpr auto forOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther |
+                           QFile::WriteOther | QFile::ExeOther;
 
 NSError refusal(const QString& sentence)
 {
@@ -61,19 +64,19 @@ Status checkOwnership(Database& database, const NSManagedObjectModel& model)
 
 bool hasSideFile(const QString& path)
 {
-    return QFileInfo(path + QStringLiteral("-wal")).size() > 0 ||
-           QFileInfo::exists(path + QStringLiteral("-journal"));
+    return hasLog(path) || QFileInfo::exists(path + QStringLiteral("-journal"));
 }
 
-// Looks at the database without SQLite's usual traces. A file with a log makes sense only together with it:
-// the log holds the latest pages, and a checkpoint that was cut short leaves some of them in the file. While
-// another connection uses the file, the look of `inspectInUse` leaves no traces either, because its side
-// files exist.
-Status inspectUntouched(const QString& path, const NSManagedObjectModel& model)
+// Looks at the database without SQLite's usual traces. A file with a log of its own makes sense only together
+// with it: the log holds the latest pages, and a checkpoint that was cut short leaves some of them in the
+// file. While another connection uses the file, the look of `inspectInUse` leaves no traces either, because
+// its side files exist.
+Status inspectUntouched(const QString& path, const NSManagedObjectModel& model, bool withSideFiles)
 {
     if (QFileInfo(path).size() == 0)
         return success();
-    const auto access = hasSideFile(path) ? Database::Access::Alone : Database::Access::Untouched;
+    const auto access =
+        withSideFiles && hasSideFile(path) ? Database::Access::Alone : Database::Access::Untouched;
     const auto opened = Database::open(path, access);
     if (!opened)
         return opened.error();
@@ -95,10 +98,21 @@ Status inspectInUse(Database& database, const NSManagedObjectModel& model)
     return checked;
 }
 
+// Files that an older version or a copy left readable for others.
+void keepToOwner(const QString& path)
+{
+    for (const auto* suffix : {"", "-wal", "-shm"}) {
+        QFile file(path + QLatin1String(suffix));
+        if (file.exists() && (file.permissions() & forOthers) != 0)
+            file.setPermissions(ownerOnlyFile);
+    }
+}
+
 Status makeReady(Database& database, const NSManagedObjectModel& model)
 {
     if (const auto inspected = inspectInUse(database, model); !inspected)
         return inspected;
+    keepToOwner(database.path());
     for (const auto* setting :
          {"PRAGMA trusted_schema = OFF", "PRAGMA journal_mode = WAL", "PRAGMA synchronous = FULL"}) {
         if (const auto set = database.run(setting); !set)
@@ -118,8 +132,11 @@ Result<std::unique_ptr<Database>> openStoreFile(const QString& path, const NSMan
     };
     if (const auto prepared = prepareFile(QFileInfo(path)); !prepared)
         return withPath(prepared.error());
-    if (const auto inspected = inspectUntouched(path, model); !inspected)
+    const bool isLogOurs = !hasLog(path) || logBelongsToFile(path);
+    if (const auto inspected = inspectUntouched(path, model, isLogOurs); !inspected)
         return withPath(inspected.error());
+    if (const auto cleared = isLogOurs ? success() : putLogAside(path); !cleared)
+        return withPath(cleared.error());
     auto opened = Database::open(path, Database::Access::ReadWrite);
     if (!opened)
         return withPath(opened.error());

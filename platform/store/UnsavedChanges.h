@@ -9,7 +9,9 @@
 class UnsavedChanges
 {
 public:
-    [[nodiscard]] bool isEmpty() const { return unwritten.empty() && written.empty(); }
+    [[nodiscard]] bool isEmpty() const { return count() == 0; }
+    // How many objects.
+    [[nodiscard]] std::size_t count() const { return unwritten.size() + written.size(); }
     // The first that is still to be written, if any.
     [[nodiscard]] std::shared_ptr<NSManagedObject> next() const;
 

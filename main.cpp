@@ -5,16 +5,23 @@
 
 #include <QApplication>
 
+namespace {
+
+// A session waits longer than that for its programs.
+constexpr std::chrono::seconds patienceAtLogOut(2);
+
+} // namespace
+
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("marrowvale"));
     QApplication::setApplicationDisplayName(QStringLiteral("Marrowvale"));
     QApplication::setDesktopFileName(QStringLiteral("marrowvale"));
-    quitAtTerminationSignals(application);
 
     const auto device = makeLinuxDevice();
     AppDelegate delegate;
+    quitAtTerminationSignals(application, [&delegate] { delegate.keeper().insist(patienceAtLogOut); });
     if (!delegate.didFinishLaunchingWithOptions())
         return 1;
     MainWindow window;

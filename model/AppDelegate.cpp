@@ -22,6 +22,9 @@ AppDelegate::AppDelegate()
 
 AppDelegate::~AppDelegate()
 {
+    catalogueKeeper.tryAgain();
+    for (const auto& change : catalogueKeeper.refusedChanges())
+        consoleError(QStringLiteral("Not saved: ") + change);
     sharedDelegate = nullptr;
 }
 
@@ -44,6 +47,7 @@ NSPersistentContainer& AppDelegate::persistentContainer()
                                                               MarrowvaleModel::description());
         requireSuccess(opened->loadPersistentStores());
         container = std::move(opened);
+        catalogueKeeper.watch(container->viewContext());
     }
     return *container;
 }

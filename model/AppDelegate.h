@@ -1,9 +1,11 @@
 #pragma once
 
+#include "model/CatalogueKeeper.h"
 #include "platform/store/NSPersistentContainer.h"
 
 // The application's one delegate: it owns the catalogue's store. While it lives it is the shared one, so
-// there is at most one at a time; screens must not outlive it.
+// there is at most one at a time; screens must not outlive it. When it is destroyed it tries once more to
+// save what was refused, and lists on standard error what is lost.
 class AppDelegate
 {
 public:
@@ -22,9 +24,13 @@ public:
     // be opened is a fatal error.
     NSPersistentContainer& persistentContainer();
 
+    // Keeps trying what the store refused.
+    CatalogueKeeper& keeper() { return catalogueKeeper; }
+
     // Saves the view context when it has changes; a save that fails is a fatal error.
     void saveContext();
 
 private:
     std::unique_ptr<NSPersistentContainer> container;
+    CatalogueKeeper catalogueKeeper;
 };

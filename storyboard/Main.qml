@@ -1,5 +1,6 @@
 import QtQuick
 import Marrowvale.Controls
+import Marrowvale.Model
 import Marrowvale.Storyboard
 
 // The window's root: its stack of layouts, in the device's style.
@@ -7,6 +8,7 @@ Rectangle {
     id: root
 
     required property SceneStage stage
+    required property CatalogueKeeper keeper
 
     color: Theme.shades.window
 
@@ -17,8 +19,18 @@ Rectangle {
     }
 
     NavigationStack {
-        anchors.fill: parent
+        width: parent.width
+        anchors.top: parent.top
+        anchors.bottom: banner.top
         stage: root.stage
         stack: root.stage.root
+    }
+
+    Banner {
+        id: banner
+
+        width: parent.width
+        anchors.bottom: parent.bottom
+        text: root.keeper.notice
     }
 }

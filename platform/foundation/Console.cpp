@@ -19,8 +19,13 @@ void console(const QString& line)
     writeLine(stdout, line.toUtf8());
 }
 
+void consoleError(const QString& line)
+{
+    writeLine(stderr, line.toUtf8());
+}
+
 void fatalError(const QString& text)
 {
-    writeLine(stderr, "Fatal error: " + text.toUtf8());
+    consoleError(QStringLiteral("Fatal error: ") + text);
     std::abort();
 }

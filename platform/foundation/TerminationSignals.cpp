@@ -27,18 +27,22 @@ bool isIgnored(int signal)
 
 } // namespace
 
-void quitAtTerminationSignals(QCoreApplication& application)
+void quitAtTerminationSignals(QCoreApplication& application, std::function<void()> beforeTheEnd)
 {
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0)
         return;
     writingEnd = ends[1];
     const auto* notifier = new QSocketNotifier(ends[0], QSocketNotifier::Read, &application);
-    QObject::connect(notifier, &QSocketNotifier::activated, &application, [end = ends[0]] {
+    const auto end = [reading = ends[0], before = std::move(beforeTheEnd)] {
         char passed = 0;
-        if (::read(end, &passed, 1) == 1)
-            QCoreApplication::quit();
-    });
+        if (::read(reading, &passed, 1) != 1)
+            return;
+        if (before)
+            before();
+        QCoreApplication::exit();
+    };
+    QObject::connect(notifier, &QSocketNotifier::activated, &application, end);
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         if (isIgnored(signal))
             continue;

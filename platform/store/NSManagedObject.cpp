@@ -55,6 +55,15 @@ int NSManagedObject::requireIndex(const QString& key) const
     return *index;
 }
 
+QString NSManagedObject::shortDescription() const
+{
+    const auto key = description.indexes.empty() ? description.attributes.front().name
+                                                 : description.indexes.front().front();
+    const auto value = valueForKey(key);
+    const auto* name = std::get_if<QString>(&value);
+    return description.name + QStringLiteral(": ") + (name == nullptr ? QString() : *name);
+}
+
 AttributeValue NSManagedObject::valueForKey(const QString& key) const
 {
     const auto index = requireIndex(key);

@@ -19,6 +19,10 @@ public:
 
     [[nodiscard]] const NSEntityDescription& entity() const { return description; }
 
+    // The entity and the text by which people know the record, such as "Movies: Zodiac": that of the
+    // attribute that the entity's first index sorts by, else of the first attribute.
+    [[nodiscard]] QString shortDescription() const;
+
     // By the attribute's name. An unknown key, or a value of another type than the attribute's, ends the
     // program.
     [[nodiscard]] AttributeValue valueForKey(const QString& key) const;

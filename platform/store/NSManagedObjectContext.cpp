@@ -66,6 +66,13 @@ void NSManagedObjectContext::deleteObject(const std::shared_ptr<NSManagedObject>
     unsaved.note(*object);
 }
 
+QStringList NSManagedObjectContext::describeChanges() const
+{
+    QStringList lines;
+    unsaved.forEach([&](const NSManagedObject& object) { lines << object.shortDescription(); });
+    return lines;
+}
+
 void NSManagedObjectContext::forget(const NSManagedObject& object)
 {
     if (object.recordId != 0)

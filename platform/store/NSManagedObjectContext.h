@@ -49,6 +49,8 @@ public:
     [[nodiscard]] bool hasChanges() const { return !unsaved.isEmpty(); }
     // How many objects wait for a save.
     [[nodiscard]] std::size_t changeCount() const { return unsaved.count(); }
+    // The short description of each of them.
+    [[nodiscard]] QStringList describeChanges() const;
     // Without changes this does nothing. A saved change survives the end of the process, and the loss of
     // power. Waits for another program's lock for at most half a second. Fails with `isStoreReplaced` when
     // the file at the store's path is no longer the one that is open.

@@ -15,6 +15,15 @@ public:
     // The first that is still to be written, if any.
     [[nodiscard]] std::shared_ptr<NSManagedObject> next() const;
 
+    template <typename Visit>
+    void forEach(Visit visit) const
+    {
+        for (const auto* objects : {&written, &unwritten}) {
+            for (const auto& [number, object] : *objects)
+                visit(*object);
+        }
+    }
+
     // The object changed, was inserted or was deleted, and is to be written (again).
     void note(NSManagedObject& object);
     // The object needs no saving any more.

@@ -13,7 +13,18 @@ void requireSuccess(const Status& status)
         fatalError(QStringLiteral("Unresolved error ") + status.error().debugText());
 }
 
+std::unique_ptr<NSPersistentContainer> makeContainer()
+{
+    return std::make_unique<NSPersistentContainer>(QStringLiteral("Marrowvale"),
+                                                   MarrowvaleModel::description());
+}
+
 } // namespace
+
+QString AppDelegate::catalogueFolder()
+{
+    return makeContainer()->defaultDirectory();
+}
 
 AppDelegate::AppDelegate()
 {
@@ -43,8 +54,7 @@ bool AppDelegate::didFinishLaunchingWithOptions()
 NSPersistentContainer& AppDelegate::persistentContainer()
 {
     if (!container) {
-        auto opened = std::make_unique<NSPersistentContainer>(QStringLiteral("Marrowvale"),
-                                                              MarrowvaleModel::description());
+        auto opened = makeContainer();
         requireSuccess(opened->loadPersistentStores());
         container = std::move(opened);
         catalogueKeeper.watch(container->viewContext());

@@ -14,6 +14,9 @@ public:
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
 
+    // Where the store lies; it need not exist.
+    [[nodiscard]] static QString catalogueFolder();
+
     // A fatal error when there is none.
     static AppDelegate& shared();
 

@@ -1,6 +1,8 @@
 #include "browse/ViewController.h"
 #include "editing/AddMovieViewController.h"
+#include "platform/toolkit/UIAlertController.h"
 #include "tests/storyboard/SceneTest.h"
+#include "tests/support/ForeignLock.h"
 
 #include <QPointer>
 
@@ -35,6 +37,28 @@ TEST_F(WindowTest, TheKeyboardSearchesAddsAndGoesBack)
         waitUntilStill();
         press(Qt::Key_Escape);
         EXPECT_EQ(navigation().depth(), depth);
+    }
+}
+
+TEST_F(WindowTest, ClosingAsksWhileSomethingIsNotSaved)
+{
+    const ForeignLock lock;
+    context().insert<Movies>();
+    ASSERT_FALSE(context().save());
+    const QString notice = AppDelegate::shared().keeper().notice();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return visible(QAccessible::AlertMessage, notice) != nullptr; }));
+    for (const bool closes : {false, true}) {
+        EXPECT_FALSE(window->close());
+        EXPECT_FALSE(window->close()) << "asked once";
+        auto* question =
+            qobject_cast<UIAlertController*>(navigation().topViewController()->presentedViewController());
+        ASSERT_NE(question, nullptr);
+        EXPECT_EQ(question->message(), "1 change is not saved.");
+        EXPECT_EQ(question->actionTitles(), QStringList({"Keep Open", "Close Anyway"}));
+        question->choose(closes ? 1 : 0);
+        EXPECT_EQ(window->isVisible(), !closes);
+        EXPECT_EQ(navigation().topViewController()->presentedViewController(), nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 }
 

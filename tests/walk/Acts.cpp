@@ -1,5 +1,7 @@
 #include "tests/walk/Acts.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 const QString keys[] = {"Tab",    "Tab",    "Shift+Tab", "Return",   "Space",     "Down",    "Down",
@@ -9,6 +11,8 @@ const QString keys[] = {"Tab",    "Tab",    "Shift+Tab", "Return",   "Space",   
 const QString words[] = {"a",       "The", "on",  "19", "20",     "7",    "Com",
                          "netflix", "PG",  "Zed", "  ", "O'Neil", "x^y~", "e\u0301"};
 const QString numbers[] = {"1", "9", "19", "2001", "20"};
+// A letter takes a frame.
+constexpr int longestRetyped = 40;
 const QSize sizes[] = {{390, 844}, {844, 390}, {360, 640}, {820, 1180}, {1440, 900}, {420, 860}};
 
 } // namespace
@@ -20,6 +24,8 @@ QString Acts::perform(const Step& step)
     case Kind::Tap:
     case Kind::TapTwice:
         return taps.tapControl(step);
+    case Kind::TapNamed:
+        return taps.tapNamed(step);
     case Kind::TapRow:
         return taps.tapRow(step);
     case Kind::UncoverRow:
@@ -39,6 +45,10 @@ QString Acts::perform(const Step& step)
         return pressKey(step);
     case Kind::Type:
         return typeText(step);
+    case Kind::Search:
+        return search(step);
+    case Kind::Retype:
+        return retype(step);
     case Kind::Resize:
         return resize(step);
     case Kind::Wait:
@@ -69,11 +79,50 @@ QString Acts::typeText(const Step& step)
     for (const Seen& seen : state.hand.inSight()) {
         if (seen.role != QAccessible::EditableText || !seen.state.focused)
             continue;
-        const bool isNumber = seen.name == "Year Released" || seen.name == "Run Time";
-        const QString text = isNumber ? chosen(numbers, step.first) : chosen(words, step.first);
+        const QString text = seen.isNumber() ? chosen(numbers, step.first) : chosen(words, step.first);
         state.hand.type(text);
         state.conclude({});
         return QString("type \"%1\" into %2").arg(text, seen.shortName());
+    }
+    return {};
+}
+
+// Mostly for what some row says.
+QString Acts::search(const Step& step)
+{
+    const std::vector<Seen> all = state.hand.inSight();
+    const auto field = std::find_if(all.begin(), all.end(), [](const Seen& seen) {
+        return seen.isSearchField() && !seen.state.disabled;
+    });
+    if (field == all.end())
+        return {};
+    const std::vector<Seen> rows = state.hand.rowsInSight();
+    QString text = chosen(words, step.second);
+    if (step.first % 4 > 0 && !rows.empty())
+        text =
+            chosen(chosen(rows, step.second).name.split(QRegularExpression("[\\s:]+")), step.first).left(3);
+    const QString tapped = taps.act(*field, static_cast<Hand::Way>(step.second % 3), false);
+    state.hand.key(Qt::Key_A, Qt::ControlModifier);
+    state.hand.type(text);
+    state.conclude({});
+    return tapped + QString(", type \"%1\"").arg(text);
+}
+
+// What was there, or nearly so.
+QString Acts::retype(const Step& step)
+{
+    for (const Seen& seen : state.hand.inSight()) {
+        if (seen.role != QAccessible::EditableText || !seen.state.focused || seen.isSearchField())
+            continue;
+        const QString there = textOf(seen);
+        const QString next[] = {there, there.toUpper(), there.toLower(), there + ' ', there + 'e'};
+        const QString text = seen.isNumber() ? chosen(numbers, step.first) : chosen(next, step.first);
+        if (text.size() > longestRetyped)
+            return {};
+        state.hand.key(Qt::Key_A, Qt::ControlModifier);
+        state.hand.type(text);
+        state.conclude({});
+        return QString("type \"%1\" over %2").arg(text, seen.shortName());
     }
     return {};
 }

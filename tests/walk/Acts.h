@@ -24,6 +24,8 @@ public:
 private:
     [[nodiscard]] QString pressKey(const Step& step);
     [[nodiscard]] QString typeText(const Step& step);
+    [[nodiscard]] QString search(const Step& step);
+    [[nodiscard]] QString retype(const Step& step);
     [[nodiscard]] QString moveView(const Step& step);
     [[nodiscard]] QString strokeFromEdge();
     [[nodiscard]] QString resize(const Step& step);

@@ -102,19 +102,10 @@ Consequence Consequences::deleting(std::size_t row) const
     };
 }
 
-FormTexts Consequences::form() const
-{
-    FormTexts texts;
-    for (const Seen& seen : state.hand.look())
-        if (seen.role == QAccessible::EditableText)
-            texts.insert(seen.name, textOf(seen));
-    return texts;
-}
-
 std::optional<Consequence> Consequences::ofSaving() const
 {
     const QString screenClass = state.screens.topClass();
-    const FormTexts texts = form();
+    const FormTexts texts = formOf(state.hand.look());
     if (!screenClass.endsWith("MovieViewController"))
         return ofSavingValue(screenClass, texts);
     const bool isReadable =

@@ -34,7 +34,6 @@ private:
     [[nodiscard]] Consequence ofSavingValue(const QString& screenClass, const FormTexts& texts) const;
     [[nodiscard]] Consequence ofSavingMovie(const FormTexts& texts) const;
     [[nodiscard]] std::optional<Consequence> ofKeyInList(Qt::Key key, const Seen& list) const;
-    [[nodiscard]] FormTexts form() const;
 
     WalkState& state;
 };

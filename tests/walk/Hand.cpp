@@ -62,6 +62,17 @@ bool Seen::isRow() const
     return role == QAccessible::ListItem && !item.isNull() && item->property("spokenName").isValid();
 }
 
+bool Seen::isSearchField() const
+{
+    return role == QAccessible::EditableText &&
+           (name.startsWith("Search by") || name.startsWith("Sort and Search"));
+}
+
+bool Seen::isNumber() const
+{
+    return name == "Year Released" || name == "Run Time";
+}
+
 bool Seen::isPressable() const
 {
     static const QSet<int> roles{QAccessible::Button, QAccessible::MenuItem, QAccessible::CheckBox,
@@ -79,6 +90,15 @@ QString textOf(const Seen& editable)
     return editable.item ? editable.item->property("text").toString() : QString();
 }
 
+QHash<QString, QString> formOf(const std::vector<Seen>& all)
+{
+    QHash<QString, QString> texts;
+    for (const Seen& seen : all)
+        if (seen.role == QAccessible::EditableText)
+            texts.insert(seen.name, textOf(seen));
+    return texts;
+}
+
 Hand::Hand(MainWindow& window, ManualQueue& queue)
     : window(window)
     , queue(queue)
@@ -86,7 +106,7 @@ Hand::Hand(MainWindow& window, ManualQueue& queue)
 {
 }
 
-std::vector<Seen> Hand::look() const
+std::vector<Seen> Hand::everything() const
 {
     std::vector<Seen> found;
     forEachAccessible(window, [&](QAccessibleInterface& seen) {
@@ -95,6 +115,12 @@ std::vector<Seen> Hand::look() const
             found.push_back(seenOf(seen, *item, window.size()));
     });
     coverBySpinners(found);
+    return found;
+}
+
+std::vector<Seen> Hand::look() const
+{
+    std::vector<Seen> found = everything();
     if (std::any_of(found.begin(), found.end(), [](const Seen& seen) { return seen.inPopup; }))
         std::erase_if(found, [](const Seen& seen) { return !seen.inPopup; });
     return found;

@@ -4,6 +4,7 @@
 #include "tests/support/ManualQueue.h"
 
 #include <QAccessible>
+#include <QHash>
 #include <QPointer>
 #include <QQuickItem>
 
@@ -24,6 +25,9 @@ struct Seen
     [[nodiscard]] bool isPressable() const;
     // A row of a table, not a value of a wheel.
     [[nodiscard]] bool isRow() const;
+    [[nodiscard]] bool isSearchField() const;
+    // A field that takes only numbers.
+    [[nodiscard]] bool isNumber() const;
     // For people, in quotes.
     [[nodiscard]] QString shortName() const;
 };
@@ -36,7 +40,9 @@ public:
 
     Hand(MainWindow& window, ManualQueue& queue);
 
-    // Everything that is not hidden; while a popup is open, only what it holds.
+    // Everything that is not hidden, behind a popup too.
+    [[nodiscard]] std::vector<Seen> everything() const;
+    // The same; while a popup is open, only what it holds.
     [[nodiscard]] std::vector<Seen> look() const;
     // Returns everything that `look` finds and that can be touched.
     [[nodiscard]] std::vector<Seen> inSight() const;
@@ -67,3 +73,5 @@ private:
 
 // The text that an editable control holds.
 [[nodiscard]] QString textOf(const Seen& editable);
+// The texts of all editable controls, by their names.
+[[nodiscard]] QHash<QString, QString> formOf(const std::vector<Seen>& all);

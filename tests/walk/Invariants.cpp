@@ -14,12 +14,6 @@ const QRegularExpression
                    "nil|MainMenu|MainList|[A-Za-z]+Breakdown|"
                    "Could not create.*|wrote PDF file with multiple pages to: .*)$");
 
-bool isSearchField(const Seen& seen)
-{
-    return seen.role == QAccessible::EditableText &&
-           (seen.name.startsWith("Search by") || seen.name.startsWith("Sort and Search"));
-}
-
 // A line of a long text is as high as its words.
 bool isLineOfText(const Seen& seen)
 {
@@ -53,6 +47,7 @@ void Invariants::check()
     checkUncoveredRow(all);
     checkList(all);
     checkControls(all);
+    editorChecks.check(all);
     checkOutput();
     sentOut.check();
 }
@@ -86,7 +81,7 @@ void Invariants::followTexts(const std::vector<Seen>& all)
     const int screen = state.screens.topNumber();
     for (const Seen& seen : all) {
         const QString text = textOf(seen);
-        if (isSearchField(seen) && state.list() != nullptr && state.list()->search != text)
+        if (seen.isSearchField() && state.list() != nullptr && state.list()->search != text)
             state.model.search(screen, text);
         if (seen.role == QAccessible::EditableText && seen.name == "Date Watched")
             state.model.showDate(screen, text);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/walk/EditorChecks.h"
 #include "tests/walk/SentOut.h"
 
 // The properties that hold after every step of any walk. Each check throws WalkFailure.
@@ -8,6 +9,7 @@ class Invariants
 public:
     explicit Invariants(WalkState& state)
         : state(state)
+        , editorChecks(state)
         , sentOut(state)
     {
     }
@@ -24,5 +26,6 @@ private:
     void checkOutput();
 
     WalkState& state;
+    EditorChecks editorChecks;
     SentOut sentOut;
 };

@@ -141,8 +141,11 @@ void ModelProgram::tapRow(int screen, std::size_t row)
         chosen.film.year = scene.shownFilms()[row]->year;
     } else {
         chosen.film = *scene.shownFilms()[row];
-        if (scene.kind->content == Content::MoviesOfGroup)
+        if (scene.kind->content == Content::MoviesOfGroup) {
+            chosen.film.notes.reset();
             chosen.film.year = std::max(-1, chosen.film.year);
+            chosen.film.runTime = std::max(-1, chosen.film.runTime);
+        }
     }
 }
 

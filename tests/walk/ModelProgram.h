@@ -68,6 +68,8 @@ public:
     [[nodiscard]] ModelScene* list(int screen);
     [[nodiscard]] ModelEditor* editor(int screen);
     [[nodiscard]] ModelPrint* print(int screen);
+    // The film last chosen from a list, as it was then.
+    [[nodiscard]] const ModelFilm& chosenFilm() const { return chosen.film; }
     // "Create and Print".
     void createPrint(int screen);
 

@@ -3,6 +3,8 @@
 #include "tests/walk/ModelOrder.h"
 #include "tests/walk/ModelRows.h"
 
+#include <QLocale>
+
 namespace {
 
 QString line(const QString& label, const std::optional<QString>& text)
@@ -13,6 +15,28 @@ QString line(const QString& label, const std::optional<QString>& text)
 QString peopleLine(const QString& label, const std::optional<QString>& people)
 {
     return people ? line(label, namesOnOneLine(*people)) : QString();
+}
+
+QString filmBlock(const ModelFilm& film, const QString& firstLine, const QString& lineAfterGenre)
+{
+    return firstLine + line("Movie Name: ", film.name) + line("Genre: ", film.genre) + lineAfterGenre +
+           line("Year: ", QString::number(film.year)) + peopleLine("Actors: ", film.actors) +
+           peopleLine("Directors: ", film.directors) + peopleLine("Producer: ", film.producers) +
+           line("Notes: ", film.notes) + QChar(QChar::ObjectReplacementCharacter) + "   \n\n";
+}
+
+// What the group goes by.
+QString groupLine(const ModelFilm& film, const ModelListKind& kind)
+{
+    if (kind.returnScreen == "DateReleasedBreakdown")
+        return line("Year Released: ", QString::number(film.year));
+    if (kind.groupText == nullptr)
+        return line("Date Watched: ",
+                    QLocale(QLocale::English, QLocale::UnitedStates).toString(watchedDay(film), "MMMM yyyy"));
+    const QString label = kind.groupText == &ModelFilm::genre    ? "Genre: "
+                          : kind.groupText == &ModelFilm::rating ? "Rating: "
+                                                                 : "Provider: ";
+    return line(label, (film.*kind.groupText).value_or(""));
 }
 
 QString onExchangeLine(const std::optional<QString>& people)
@@ -43,10 +67,30 @@ QString printedText(const std::vector<FilmPointer>& films, const std::optional<Q
 {
     QString text = title ? *title + "\n\n" : QString();
     for (const auto& film : films)
-        text += line("Movie Name: ", film->name) + line("Genre: ", film->genre) +
-                line("Year: ", QString::number(film->year)) + peopleLine("Actors: ", film->actors) +
-                peopleLine("Directors: ", film->directors) + peopleLine("Producer: ", film->producers) +
-                line("Notes: ", film->notes) + QChar(QChar::ObjectReplacementCharacter) + "   \n\n";
+        text += filmBlock(*film, {}, {});
+    return text;
+}
+
+QString reportText(const std::vector<FilmPointer>& films, const ModelListKind& kind)
+{
+    QString text = "Movies Filtered by " + groupLine(*films.front(), kind) + "\n";
+    const bool leads = kind.groupText == &ModelFilm::provider || kind.returnScreen == "DateWatchedBreakdown";
+    for (const auto& film : films)
+        text += filmBlock(*film, leads ? groupLine(*film, kind) : QString(),
+                          kind.groupText == &ModelFilm::rating ? groupLine(*film, kind) : QString());
+    return text;
+}
+
+QString sharedForm(const QHash<QString, QString>& form)
+{
+    const std::pair<const char*, const char*> lines[] = {
+        {"Movie Name: ", "Movie Name"}, {"Provider: ", "Provider"},  {"Year Released: ", "Year Released"},
+        {"Run Time: ", "Run Time"},     {"Rating: ", "Rating"},      {"Genre: ", "Genre"},
+        {"Actor's: ", "Actors"},        {"Director: ", "Directors"}, {"Notes: ", "Notes"}};
+    QString text;
+    for (const auto& [label, field] : lines)
+        if (!form[field].isEmpty())
+            text += line(label, form[field]);
     return text;
 }
 

@@ -1,11 +1,15 @@
 #include "tests/walk/Step.h"
 
-#include <random>
+#include "tests/walk/Errands.h"
 
 namespace {
 
 // How often a kind comes, in the order of the kinds.
-constexpr double weights[Step::kinds] = {30, 3, 12, 6, 2, 2, 1, 2, 2, 3, 3, 1, 2, 16, 10, 2, 1, 3, 4, 2, 1};
+constexpr double weights[Step::kinds] = {30, 3,  12, 6, 2, 2, 1, 2, 2, 3, 3, 1,
+                                         2,  16, 10, 2, 1, 3, 4, 2, 0, 2, 3, 1};
+
+// One act in so many is an errand, which makes about two thirds of all steps.
+constexpr unsigned actsAnErrand = 6;
 
 std::vector<double> weightsOf(std::mt19937& random)
 {
@@ -26,11 +30,17 @@ std::vector<Step> randomSteps(unsigned seed, int count)
     const std::vector<double> chosen = weightsOf(random);
     std::discrete_distribution<int> kind(chosen.begin(), chosen.end());
     std::vector<Step> steps;
-    for (int step = 0; step < count; ++step) {
+    while (steps.size() < static_cast<std::size_t>(count)) {
+        if (random() % actsAnErrand == 0) {
+            const std::vector<Step> errand = randomErrand(random);
+            steps.insert(steps.end(), errand.begin(), errand.end());
+            continue;
+        }
         const auto next = static_cast<Step::Kind>(kind(random));
         const auto first = static_cast<unsigned>(random() % 1000);
         steps.push_back({next, first, static_cast<unsigned>(random() % 1000)});
     }
+    steps.resize(static_cast<std::size_t>(count));
     return steps;
 }
 

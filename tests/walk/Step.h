@@ -29,6 +29,9 @@ struct Step
         Wait,
         AnswerDialogs,
         ChangeDevice,
+        TapNamed,
+        Search,
+        Retype,
         GoHome
     };
     static constexpr int kinds = static_cast<int>(Kind::GoHome) + 1;
@@ -45,7 +48,8 @@ template <typename Values>
     return values[number % std::size(values)];
 }
 
-// The same steps for the same seed. Each walk leaves some kinds out, so that rare ones get their turn.
+// Returns the same steps for the same seed: single acts and errands. Each walk leaves some kinds of acts out,
+// so that rare ones get their turn.
 [[nodiscard]] std::vector<Step> randomSteps(unsigned seed, int count);
 
 // "6.12.0 0.3.1", which `stepsFrom` reads again.

@@ -1,5 +1,7 @@
 #include "tests/walk/Taps.h"
 
+#include "tests/walk/Errands.h"
+
 QString Taps::act(const Seen& control, Hand::Way way, bool twice)
 {
     const auto consequence = consequences.of(control);
@@ -33,6 +35,14 @@ QString Taps::tapControl(const Step& step)
     if (step.kind == Step::Kind::TapTwice && !leadsAway)
         return {};
     return act(control, static_cast<Hand::Way>(step.second % 3), step.kind == Step::Kind::TapTwice);
+}
+
+QString Taps::tapNamed(const Step& step)
+{
+    for (const Seen& seen : state.hand.inSight())
+        if (seen.isPressable() && !seen.isRow() && seen.name == controlName(step))
+            return act(seen, static_cast<Hand::Way>(step.second % 3), false);
+    return {};
 }
 
 QString Taps::tapRow(const Step& step)

@@ -15,11 +15,13 @@ public:
     }
 
     [[nodiscard]] QString tapControl(const Step& step);
+    // The control of the step's name, if it is in sight.
+    [[nodiscard]] QString tapNamed(const Step& step);
     [[nodiscard]] QString tapRow(const Step& step);
-
-private:
+    // `twice`: a second tap follows at once.
     [[nodiscard]] QString act(const Seen& control, Hand::Way way, bool twice);
 
+private:
     WalkState& state;
     Consequences consequences;
 };

@@ -13,6 +13,7 @@ struct Options
     std::vector<unsigned> seeds;
     int steps = 0;
     std::optional<std::vector<Step>> replay;
+    bool verbose = false;
 };
 
 Options optionsFrom(const QStringList& arguments)
@@ -25,6 +26,7 @@ Options optionsFrom(const QStringList& arguments)
          {"seeds", "How many fixed seeds.", "count", "20"},
          {"fresh", "How many seeds by chance besides.", "count", "0"},
          {"steps", "Steps a walk.", "count", "100"},
+         {"verbose", "Prints every step."},
          {"replay", "Takes these steps, as a failing walk prints them, with the first seed.", "steps"}});
     parser.process(arguments);
     Options options;
@@ -35,6 +37,7 @@ Options optionsFrom(const QStringList& arguments)
     for (int seed = 0; seed < parser.value("fresh").toInt(); ++seed)
         options.seeds.push_back(chance());
     options.steps = parser.value("steps").toInt();
+    options.verbose = parser.isSet("verbose");
     if (parser.isSet("replay")) {
         options.replay = stepsFrom(parser.value("replay"));
         options.seeds = {first};
@@ -79,6 +82,8 @@ int main(int argc, char** argv)
         const std::vector<Step> walk = options.replay.value_or(randomSteps(seed, options.steps));
         const WalkResult result = takeWalk(seed, walk);
         steps += result.done.size() - result.done.count(QString());
+        if (options.verbose)
+            print(QString("Seed %1:\n  ").arg(seed) + result.done.join("\n  "));
         if (!result.failure.isEmpty()) {
             ++failures;
             explain(seed, walk, result);

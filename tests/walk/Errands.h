@@ -1,0 +1,12 @@
+#pragma once
+
+#include "tests/walk/Step.h"
+
+#include <random>
+
+// Returns the steps of something that a user comes for: from the home menu through several screens. The steps
+// are ordinary ones that choose among what is in sight, so that any of them can be left out.
+[[nodiscard]] std::vector<Step> randomErrand(std::mt19937& random);
+
+// The name of the control that a step of the kind TapNamed looks for.
+[[nodiscard]] const QString& controlName(const Step& step);

@@ -133,6 +133,9 @@ QString Acts::moveView(const Step& step)
     const QPoint middle(size.width() / 2, size.height() / 2);
     const bool upwards = step.first % 3 > 0;
     if (step.kind == Step::Kind::Pinch) {
+        // Either finger could press a button of the dialog.
+        if (state.screens.presented() != nullptr)
+            return {};
         state.hand.pinch(middle, 60, upwards ? 120 : 30);
     } else if (step.kind == Step::Kind::Wheel) {
         state.hand.turnWheel(middle, upwards ? -3 : 3);

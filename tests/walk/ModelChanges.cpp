@@ -11,7 +11,7 @@ const QDate defaultWatchDay(2001, 1, 1);
 ModelFilm newFilm()
 {
     ModelFilm film;
-    film.watched = defaultWatchDay.startOfDay();
+    film.watched = QDateTime(defaultWatchDay, QTime(12, 0), Qt::UTC);
     return film;
 }
 

@@ -12,8 +12,8 @@ const QStringList errands[] = {
     {"@home", "Menu", "Movie List", "@search?", "@row", "Movie Name|Year Released|Run Time|Genre|Rating",
      "@retype", "Save", "Sort", "@row"},
     {"@home", "Menu", "Movie List", "@row", "Remove", "Yes", "Magnify"},
-    {"@home", "Menu", "Group By", "Genre|Released|Watched|Rating|Provider", "@search?", "@row", "@row",
-     "Movie Name|Year Released|Genre|Rating|Provider", "@retype", "Save", "@row?"},
+    {"@home", "Menu", "Group By", "Genre|Released|Watched|Rating|Provider", "@search?", "@row", "@search?",
+     "@row", "Movie Name|Year Released|Genre|Rating|Provider", "@retype", "Save", "@row?"},
     {"@home", "Menu", "Add Movie", "Movie Name", "@type", "Year Released", "@type", "Genre", "@type", "Save",
      "Movie List", "@row"},
     {"@home", "Menu", "Reference Lists", "Genres|Ratings|Providers", "@row", "@retype", "Save", "@row?"},
@@ -82,30 +82,34 @@ const QHash<QString, Step::Kind> kinds{
     {"@away", Step::Kind::DrawRowAway},     {"@retype", Step::Kind::Retype}, {"@type", Step::Kind::Type},
     {"@dialogs", Step::Kind::AnswerDialogs}};
 
-Step stepOf(const QString& act, std::mt19937& random)
+Step stepOf(const QString& name, std::mt19937& random)
 {
-    const QString said = chosen(act.split('|'), static_cast<unsigned>(random()));
     const auto first = static_cast<unsigned>(random() % 1000);
     const auto second = static_cast<unsigned>(random() % 1000);
-    if (kinds.contains(said))
-        return {kinds[said], first, second};
-    const auto* name = std::find(std::begin(names), std::end(names), said);
-    Q_ASSERT(name != std::end(names));
-    return {Step::Kind::TapNamed, static_cast<unsigned>(name - std::begin(names)), second};
+    if (kinds.contains(name))
+        return {kinds[name], first, second};
+    const auto* known = std::find(std::begin(names), std::end(names), name);
+    Q_ASSERT(known != std::end(names));
+    return {Step::Kind::TapNamed, static_cast<unsigned>(known - std::begin(names)), second};
 }
 
 } // namespace
 
-std::vector<Step> randomErrand(std::mt19937& random)
+std::vector<Step> errandSteps(unsigned number, std::mt19937& random)
 {
     std::vector<Step> steps;
-    for (QString act : chosen(errands, static_cast<unsigned>(random()))) {
+    // The errand's first alternatives go round with it, the others are chosen at random.
+    unsigned alternative = number / std::size(errands);
+    for (QString act : chosen(errands, number)) {
         const bool isOptional = act.endsWith('?');
         if (isOptional && random() % 2 == 0)
             continue;
         if (isOptional)
             act.chop(1);
-        steps.push_back(stepOf(act, random));
+        const QStringList alternatives = act.split('|');
+        steps.push_back(stepOf(chosen(alternatives, alternative), random));
+        if (alternatives.size() > 1)
+            alternative = static_cast<unsigned>(random());
     }
     return steps;
 }

@@ -159,10 +159,13 @@ void ModelProgram::deleteRow(int screen, std::size_t row)
 {
     keepTexts();
     ModelScene& scene = *list(screen);
-    if (scene.kind->content == Content::Values)
+    if (scene.kind->content == Content::Values) {
         std::erase(catalogue.of(scene.kind->values), scene.values[row]);
-    else
+    } else {
         std::erase(catalogue.films, scene.shownFilms()[row]);
+        // A list may go on showing the film's texts; its cover is read when it is asked for.
+        scene.shownFilms()[row]->hasCover = false;
+    }
     scene.forget(row);
 }
 

@@ -10,6 +10,8 @@ constexpr double weights[Step::kinds] = {30, 3,  12, 6, 2, 2, 1, 2, 2, 3, 3, 1,
 
 // One act in so many is an errand, which makes about two thirds of all steps.
 constexpr unsigned actsAnErrand = 6;
+// About what a walk has time for: successive seeds go on with the errands where the one before ended.
+constexpr unsigned errandsAWalk = 9;
 
 std::vector<double> weightsOf(std::mt19937& random)
 {
@@ -30,10 +32,11 @@ std::vector<Step> randomSteps(unsigned seed, int count)
     const std::vector<double> chosen = weightsOf(random);
     std::discrete_distribution<int> kind(chosen.begin(), chosen.end());
     std::vector<Step> steps;
+    unsigned errand = seed * errandsAWalk;
     while (steps.size() < static_cast<std::size_t>(count)) {
         if (random() % actsAnErrand == 0) {
-            const std::vector<Step> errand = randomErrand(random);
-            steps.insert(steps.end(), errand.begin(), errand.end());
+            const std::vector<Step> next = errandSteps(errand++, random);
+            steps.insert(steps.end(), next.begin(), next.end());
             continue;
         }
         const auto next = static_cast<Step::Kind>(kind(random));

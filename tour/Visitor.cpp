@@ -1,6 +1,7 @@
 #include "tour/Visitor.h"
 
 #include "tour/AccessibleTree.h"
+#include "tour/Drag.h"
 #include "tour/FakeClock.h"
 #include "tour/TourError.h"
 
@@ -190,13 +191,7 @@ void Visitor::drawUp(const Control& control, int pixels)
 void Visitor::drag(const QPoint& from, const QPoint& to)
 {
     constexpr int moves = 12;
-    QTest::touchEvent(&window, finger).press(0, from);
-    for (int move = 1; move <= moves; ++move) {
-        pass(frame);
-        QTest::touchEvent(&window, finger).move(0, from + (to - from) * move / moves);
-    }
-    pass(6 * frame);
-    QTest::touchEvent(&window, finger).release(0, to);
+    dragFinger(window, finger, from, to, moves, [this](int frames) { pass(frames * frame); });
 }
 
 QStringList Visitor::rowNames()

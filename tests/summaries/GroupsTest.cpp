@@ -1,4 +1,3 @@
-#include "model/SharedValues.h"
 #include "tests/summaries/GroupFixture.h"
 
 namespace {
@@ -48,38 +47,6 @@ TEST_F(GroupsTest, AYearEndsWithItsLastInstantHere)
     given({.name = "m", .watched = QDateTime(QDate(2021, 1, 1), QTime(4, 59, 59), Qt::UTC)});
     given({.name = "m", .watched = QDateTime(QDate(2021, 1, 1), QTime(5, 0), Qt::UTC)});
     EXPECT_EQ(rows(opened(Watched)), QStringList({"2020 1", "2021 1"}));
-}
-
-TEST_F(GroupsTest, TextsStandInTheOrderOfCodePointsAndDatesInThatOfTime)
-{
-    const auto watched = [](int year, int month) { return QDateTime(QDate(year, month, 5), QTime(12, 0)); };
-    given({.name = "a", .genre = "war", .year = 999, .watched = watched(2021, 3)});
-    given({.name = "b", .genre = "War", .year = 2019, .watched = watched(2021, 1)});
-    given({.name = "c", .genre = "", .year = 1999, .watched = watched(2020, 12)});
-    given({.name = "d", .genre = "Zed", .year = 1000});
-    struct Case
-    {
-        Tab tab;
-        QStringList rows;
-        QString search;
-        QStringList foundDownwards;
-    };
-    const Case cases[] = {
-        {Genre, {" 1", "War 1", "Zed 1", "war 1"}, "WAR", {"war 1", "War 1"}},
-        {Released, {"999 1", "1000 1", "1999 1", "2019 1"}, "9", {"2019 1", "1999 1", "999 1"}},
-        {Watched, {"2020 1", "2021 2", "2021 2"}, "2021-", {"2021 2", "2021 2"}},
-    };
-    for (const auto& [tab, all, text, foundDownwards] : cases) {
-        auto& screen = opened(tab);
-        EXPECT_EQ(rows(screen), all);
-        screen.searchController->searchBar()->setText(text);
-        screen.SortButtonTapped();
-        EXPECT_EQ(rows(screen), foundDownwards);
-        screen.tableView()->select(0);
-    }
-    EXPECT_EQ(shared().CurrentMovie.genre, "war");
-    EXPECT_EQ(shared().CurrentMovie.yearReleased, 2019);
-    EXPECT_EQ(shared().SelectedMonth, 3);
 }
 
 using GroupsDeathTest = GroupsTest;

@@ -1,24 +1,10 @@
 #include "tests/support/Home.h"
+#include "tests/support/Surroundings.h"
 
 #include <QApplication>
-#include <QHashSeed>
-#include <QLocale>
 #include <gtest/gtest.h>
 
 namespace {
-
-// What a test may depend on without saying so is the same on every machine.
-void pinSurroundings()
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
-    qputenv("LC_ALL", "en_US.UTF-8");
-    qputenv("LANGUAGE", "en_US");
-    qputenv("TZ", "America/New_York");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    QHashSeed::setDeterministicGlobalSeed();
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-}
 
 class FreshHomePerTest : public testing::EmptyTestEventListener
 {

@@ -115,12 +115,12 @@ QString Acts::retype(const Step& step)
         if (seen.role != QAccessible::EditableText || !seen.state.focused || seen.isSearchField())
             continue;
         const QString there = textOf(seen);
-        const QString next[] = {there, there.toUpper(), there.toLower(), there + ' ', there + 'e'};
+        const QString next[] = {there, there.toUpper(), there.toLower(), there + ' ', there + 'e', QString()};
         const QString text = seen.isNumber() ? chosen(numbers, step.first) : chosen(next, step.first);
         if (text.size() > longestRetyped)
             return {};
         state.hand.key(Qt::Key_A, Qt::ControlModifier);
-        state.hand.type(text);
+        text.isEmpty() ? state.hand.key(Qt::Key_Backspace, Qt::NoModifier) : state.hand.type(text);
         state.conclude({});
         return QString("type \"%1\" over %2").arg(text, seen.shortName());
     }

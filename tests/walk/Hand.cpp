@@ -1,6 +1,7 @@
 #include "tests/walk/Hand.h"
 
 #include "tour/AccessibleTree.h"
+#include "tour/Drag.h"
 #include "tour/FakeClock.h"
 
 #include <QtTest>
@@ -203,13 +204,7 @@ void Hand::rightClick(const QPoint& place)
 void Hand::drag(const QPoint& from, const QPoint& to, int duration)
 {
     const int moves = std::max(2, duration / frame);
-    QTest::touchEvent(&window, finger).press(0, from);
-    for (int move = 1; move <= moves; ++move) {
-        pass(frame);
-        QTest::touchEvent(&window, finger).move(0, from + (to - from) * move / moves);
-    }
-    pass(6 * frame);
-    QTest::touchEvent(&window, finger).release(0, to);
+    dragFinger(window, finger, from, to, moves, [this](int frames) { pass(frames * frame); });
 }
 
 void Hand::dragWhileTapping(const QPoint& from, const QPoint& to, const QPoint& other)

@@ -1,12 +1,12 @@
 #include "tests/walk/WalkProcess.h"
 
+#include "tests/support/Surroundings.h"
 #include "tests/walk/Walk.h"
 #include "tour/AccessibleListener.h"
 #include "tour/FakeClock.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QHashSeed>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -38,19 +38,6 @@ private:
     int pipe;
 };
 
-void pinSurroundings()
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
-    qputenv("LC_ALL", "en_US.UTF-8");
-    qputenv("LANGUAGE", "en_US");
-    qputenv("TZ", "America/New_York");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    QHashSeed::setDeterministicGlobalSeed();
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    FakeClock::start();
-}
-
 void walk(unsigned seed, const std::vector<Step>& steps, const Report& report)
 {
     try {
@@ -72,6 +59,7 @@ void walk(unsigned seed, const std::vector<Step>& steps, const Report& report)
 [[noreturn]] void walkAsChild(unsigned seed, const std::vector<Step>& steps, int pipe)
 {
     pinSurroundings();
+    FakeClock::start();
     const Home home;
     char name[] = "walk";
     char* arguments[] = {name, nullptr};

@@ -3,28 +3,13 @@
 #include "editing/MovieEditorViewController.h"
 #include "exchange/ExportViewController.h"
 #include "platform/foundation/UserDefaults.h"
-#include "platform/toolkit/UITabBarController.h"
 #include "tests/storyboard/SceneScreens.h"
 
 namespace {
 
-class ScenePropertiesTest : public SceneTest
+class ScenePropertiesTest : public SceneScreensTest
 {
 public:
-    void openScene(const QString& screenClass)
-    {
-        if (auto screen = makeScreen(screenClass)) {
-            navigation().push(std::move(screen));
-        } else {
-            follow("TabBarController");
-            auto& tabs = static_cast<UITabBarController&>(*navigation().topViewController());
-            int tab = 0;
-            while (tabs.stack(tab)->topViewController()->metaObject()->className() != screenClass)
-                tabs.setSelectedIndex(++tab);
-        }
-        waitUntilStill();
-    }
-
     void doPress(QAccessible::Role role, const QString& name)
     {
         ASSERT_TRUE(QTest::qWaitFor([&] { return visible(role, name) != nullptr; })) << qPrintable(name);
@@ -53,6 +38,7 @@ public:
         edit("Date Watched");
     }
 
+    using SceneScreensTest::openScene;
     using SceneTest::device;
     using SceneTest::follow;
     using SceneTest::navigation;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/toolkit/UITabBarController.h"
 #include "tests/storyboard/SceneTest.h"
 
 // Returns a screen of that class, as the first segue that leads there makes it; null if it is in a tab.
@@ -15,3 +16,22 @@ inline std::unique_ptr<UIViewController> makeScreen(const QString& screenClass)
     auto first = Storyboard::makeInitialViewController();
     return isWanted(*first) ? std::move(first) : nullptr;
 }
+
+// Any scene, opened in the window.
+class SceneScreensTest : public SceneTest
+{
+protected:
+    void openScene(const QString& screenClass)
+    {
+        if (auto screen = makeScreen(screenClass)) {
+            navigation().push(std::move(screen));
+        } else {
+            follow("TabBarController");
+            auto& tabs = static_cast<UITabBarController&>(*navigation().topViewController());
+            int tab = 0;
+            while (tabs.stack(tab)->topViewController()->metaObject()->className() != screenClass)
+                tabs.setSelectedIndex(++tab);
+        }
+        waitUntilStill();
+    }
+};

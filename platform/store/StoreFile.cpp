@@ -2,16 +2,14 @@
 
 #include "platform/store/Database.h"
 #include "platform/store/Migrations.h"
+#include "platform/store/StoreFiles.h"
 #include "platform/store/StoreGeneration.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
 
 constexpr auto ownerOnlyFile = QFile::ReadOwner | QFile::WriteOwner;
-constexpr auto ownerOnlyDirectory = ownerOnlyFile | QFile::ExeOwner;
 constexpr auto forOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther |
                            QFile::WriteOther | QFile::ExeOther;
 
@@ -23,25 +21,6 @@ NSError refusal(const QString& sentence)
 NSError readOnlyRefusal()
 {
     return refusal(QStringLiteral("The store cannot be written to."));
-}
-
-Status prepareFile(const QFileInfo& file)
-{
-    QDir directory = file.dir();
-    if (!directory.exists()) {
-        const auto name = directory.dirName();
-        const auto parent = QFileInfo(directory.path()).path();
-        if (!QDir().mkpath(parent) || !QDir(parent).mkdir(name, ownerOnlyDirectory))
-            return refusal(QStringLiteral("The directory for the store could not be made."));
-    }
-    if (file.exists() && !file.isFile())
-        return refusal(QStringLiteral("Something that is not a file is in the store's place."));
-    if (file.size() > 0)
-        return success();
-    QFile fresh(file.filePath());
-    if (!fresh.open(QIODevice::ReadWrite, ownerOnlyFile) || !fresh.setPermissions(ownerOnlyFile))
-        return refusal(QStringLiteral("The store could not be made."));
-    return success();
 }
 
 // An empty database is accepted too: it is what is left when the making of a store was cut short.
@@ -64,7 +43,7 @@ Status checkOwnership(Database& database, const NSManagedObjectModel& model)
 
 bool hasSideFile(const QString& path)
 {
-    return hasLog(path) || QFileInfo::exists(path + QStringLiteral("-journal"));
+    return hasLog(path) || StoreFiles::current().exists(path + QStringLiteral("-journal"));
 }
 
 // Looks at the database without SQLite's usual traces. A file with a log of its own makes sense only together
@@ -73,7 +52,7 @@ bool hasSideFile(const QString& path)
 // its side files exist.
 Status inspectUntouched(const QString& path, const NSManagedObjectModel& model, bool withSideFiles)
 {
-    if (QFileInfo(path).size() == 0)
+    if (StoreFiles::current().size(path) == 0)
         return success();
     const auto access =
         withSideFiles && hasSideFile(path) ? Database::Access::Alone : Database::Access::Untouched;
@@ -130,7 +109,7 @@ Result<std::unique_ptr<Database>> openStoreFile(const QString& path, const NSMan
         error.userInfo.insert(QStringLiteral("path"), path);
         return error;
     };
-    if (const auto prepared = prepareFile(QFileInfo(path)); !prepared)
+    if (const auto prepared = StoreFiles::current().prepare(path); !prepared)
         return withPath(prepared.error());
     const bool isLogOurs = !hasLog(path) || logBelongsToFile(path);
     if (const auto inspected = inspectUntouched(path, model, isLogOurs); !inspected)

@@ -3,9 +3,9 @@
 #include "platform/foundation/Console.h"
 #include "platform/foundation/FileWriting.h"
 #include "platform/store/Database.h"
+#include "platform/store/StoreFiles.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QUuid>
 
 namespace {
@@ -86,7 +86,7 @@ Status emptyLog(Database& store)
 
 bool hasLog(const QString& path)
 {
-    return QFileInfo(logFile(path)).size() > 0;
+    return StoreFiles::current().size(logFile(path)) > 0;
 }
 
 Status moveLogIntoFile(const QString& path)

@@ -141,13 +141,15 @@ void NSManagedObjectContext::endBulkScope()
     endRelaxed();
 }
 
-// A checkpoint brings the log to the disk before it copies it, and so makes the relaxed saves durable.
+// A checkpoint syncs the log before it copies it, and so makes the relaxed saves durable. One that fails is
+// repeated after the next save: Linux reports a failed sync once and may drop what it could not write, so
+// that the next save would stand in the log behind a gap. The repeated checkpoint writes every page to the
+// main file.
 void NSManagedObjectContext::endRelaxed()
 {
-    if (!isRelaxed || bulkScopes > 0 || transactionOpen)
+    if (bulkScopes > 0 || transactionOpen || !(isRelaxed || owesCheckpoint))
         return;
     if (!setRelaxed(false))
         return;
-    // Ignored: the next strict save brings the same log to the disk.
-    (void)database->run("PRAGMA wal_checkpoint(FULL)").ok();
+    owesCheckpoint = !database->run("PRAGMA wal_checkpoint(FULL)").ok();
 }

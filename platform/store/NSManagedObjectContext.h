@@ -90,6 +90,8 @@ private:
     bool transactionOpen = false;
     int bulkScopes = 0;
     bool isRelaxed = false;
+    // The checkpoint that ends a relaxed run failed.
+    bool owesCheckpoint = false;
     // Within a bulk scope only.
     RefusedSaves refused;
     StorePlace place;

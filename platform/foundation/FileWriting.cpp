@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QSaveFile>
+#include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -25,18 +26,20 @@ Status writeAtomically(const QByteArray& content, const QString& path, FileReade
     return replaceAtomically(path, readers, [&](QFileDevice& file) { return writeAll(file, content); });
 }
 
-// Unbuffered, because QSaveFile does not notice when the buffer that commit() writes does not fit on the
-// disk: it then puts the file cut short in the place of the old one.
+// Synced before it is committed, because QSaveFile replaces the old file even if its own sync fails: after
+// the loss of power neither would be left. Unbuffered, because QSaveFile does not notice when the buffer that
+// commit() writes does not fit on the disk: it then puts the file cut short in the place of the old one.
 Status replaceAtomically(const QString& path, FileReaders readers,
                          const std::function<Status(QFileDevice&)>& write)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !isFor(readers, file))
         return errorOf(file);
-    const Status written = write(file);
-    if (written && !file.commit())
-        return errorOf(file);
-    return written;
+    if (Status written = write(file); !written)
+        return written;
+    if (Status synced = syncToDisk(file); !synced)
+        return synced;
+    return file.commit() ? success() : Status(errorOf(file));
 }
 
 Status syncFolderOf(const QString& path)
@@ -62,4 +65,13 @@ Status writeAll(QFileDevice& file, QByteArrayView content)
         content = content.sliced(taken);
     }
     return success();
+}
+
+Status syncToDisk(QFileDevice& file)
+{
+    if (!file.flush())
+        return errorOf(file);
+    if (::fdatasync(file.handle()) == 0)
+        return success();
+    return NSError{qt_error_string(errno), {{QStringLiteral("path"), file.fileName()}}};
 }

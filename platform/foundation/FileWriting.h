@@ -23,3 +23,6 @@ enum class FileReaders { AsUsual, OwnerOnly };
 
 // Writes all of `content` to `file`, which must be open.
 [[nodiscard]] Status writeAll(QFileDevice& file, QByteArrayView content);
+
+// Returns when what was written to `file` is on the disk.
+[[nodiscard]] Status syncToDisk(QFileDevice& file);

@@ -1,9 +1,12 @@
 #include "platform/foundation/UserDefaults.h"
 
 #include "platform/foundation/Console.h"
+#include "platform/foundation/FileWriting.h"
+#include "platform/foundation/IniText.h"
 
 #include <QDateTime>
 #include <QDir>
+#include <QFileDevice>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
@@ -54,6 +57,25 @@ std::optional<QString> written(const QVariant& value)
     return std::nullopt;
 }
 
+bool readIni(QIODevice& file, QSettings::SettingsMap& values)
+{
+    values = valuesOfIniText(file.readAll());
+    return true;
+}
+
+bool writeIni(QIODevice& device, const QSettings::SettingsMap& values)
+{
+    auto& file = static_cast<QFileDevice&>(device);
+    return writeAll(file, iniText(values)) && syncToDisk(file);
+}
+
+// QSettings' own INI format doesn't notice a full disk: it leaves an empty file in the place of the old one.
+QSettings::Format checkedIniFormat()
+{
+    static const auto format = QSettings::registerFormat(QStringLiteral("ini"), readIni, writeIni);
+    return format;
+}
+
 void makePrivateDirectory(const QString& path)
 {
     QDir().mkpath(QFileInfo(path).path());
@@ -69,7 +91,7 @@ UserDefaults UserDefaults::standard()
 }
 
 UserDefaults::UserDefaults(const QString& path)
-    : settings(std::make_shared<QSettings>(path, QSettings::IniFormat))
+    : settings(std::make_shared<QSettings>(path, checkedIniFormat()))
 {
 }
 

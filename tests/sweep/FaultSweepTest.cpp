@@ -23,8 +23,8 @@ const FaultCase faultCases[] = {
     {"a short write", Fault::ShortWrite},
     {"a failed sync", Fault::FailedSync},
     {"a failed open", Fault::FailedOpen},
-    {"no memory once", Fault::NoMemory, 23},
-    {"no memory for good", Fault::NoMemoryForGood, 23},
+    {"no memory once", Fault::NoMemory, 41},
+    {"no memory for good", Fault::NoMemoryForGood, 41},
 };
 
 class FaultSweep : public testing::TestWithParam<FaultCase>
@@ -105,7 +105,7 @@ bool FaultSweep::takeStage(const SweepStart& start, int number)
 TEST_P(FaultSweep, losesNothing)
 {
     for (const auto& start : sweepStarts(system)) {
-        for (int number = 0;; number += GetParam().stride) {
+        for (int number = 0;; number += GetParam().stride * sweepStride) {
             place = std::string(start.stage.name) + ", operation " + std::to_string(number);
             if (!takeStage(start, number))
                 break;

@@ -37,7 +37,7 @@ protected:
     static constexpr quint32 seeds = 20;
     static constexpr int importedLines = 200;
     // An import's lines are alike.
-    static constexpr std::size_t strideOfImport = 16;
+    static constexpr std::size_t strideOfImport = 32;
 
     // The stages from `first` to `last` of `starts`, one after the other.
     Recording record(const std::vector<SweepStart>& starts, std::size_t first, std::size_t last);
@@ -110,7 +110,7 @@ void PowerLossSweep::sweep(const Recording& recording)
         replay.apply(recording.operations[done]);
         const auto& mark = recording.markAt(done + 1);
         const bool isImport = mark.acknowledged > mark.promised;
-        if (!isImport || done % strideOfImport == 0)
+        if (done % (isImport ? strideOfImport * sweepStride : sweepStride) == 0)
             stop(recording, replay, mark);
         if (figures.losses + figures.refusals > 20)
             return;

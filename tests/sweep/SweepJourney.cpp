@@ -151,6 +151,8 @@ void SweepJourney::import()
             importLine(title, 2000 + line, coverOf(title, line % 4 * 700));
         }
     }
+    if (!context()->hasChanges())
+        onSaved(true);
     context()->insert<Movies>()->setMovieName(QStringLiteral("After the import"));
     catalogue.films[QStringLiteral("After the import")] = {};
     save();

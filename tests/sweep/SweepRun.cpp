@@ -17,6 +17,8 @@ Result<QByteArrayList> readStore()
     const auto opened = openStoreFile(storePath, MarrowvaleModel::description());
     if (!opened)
         return opened.error();
+    // The disk is thrown away.
+    opened.value()->setCheckpointsOnClose(false);
     return linesOf(*opened.value());
 }
 

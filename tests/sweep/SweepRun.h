@@ -7,6 +7,13 @@
 
 inline const QString sweptDirectory = QStringLiteral("/swept");
 
+// Of so many operations one is swept: the sanitizers make everything slower.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int sweepStride = 5;
+#else
+constexpr int sweepStride = 1;
+#endif
+
 // What may be found in a store after an interruption: the state of a save that was begun, from the last that
 // was acknowledged on.
 class SweepHistory

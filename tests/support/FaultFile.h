@@ -21,8 +21,8 @@ public:
     [[nodiscard]] int sync();
     [[nodiscard]] int size(qint64& answer);
 
-    [[nodiscard]] int lock(int level);
-    [[nodiscard]] int unlock(int level);
+    [[nodiscard]] int lock(int wanted);
+    [[nodiscard]] int unlock(int wanted);
     [[nodiscard]] int checkReserved(int& answer);
 
     [[nodiscard]] int mapShared(int region, int size, bool extend, volatile void** place);

@@ -63,10 +63,11 @@ void applyFirst(FaultImage& image, const std::vector<FaultDiskOperation>& operat
 FaultReplay::FaultReplay(const FaultImages& images)
 {
     for (const auto& [name, image] : images) {
-        names.emplace(name, static_cast<int>(files.size()));
+        const auto number = static_cast<int>(files.size());
+        names.emplace(name, number);
+        syncedNames.emplace(name, number);
         files.push_back({image, image, {}});
     }
-    syncedNames = names;
 }
 
 void FaultReplay::applyTo(Names& names, const FaultDiskOperation& operation)

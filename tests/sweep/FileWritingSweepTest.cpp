@@ -68,7 +68,7 @@ protected:
         QDir().mkdir(folder);
         fill(home.filePath("source"), newContent);
     }
-    ~FileWritingSweep() override { SystemCallFaults::plan().disarm(); }
+    void TearDown() override { SystemCallFaults::plan().disarm(); }
 
     bool strike(const Writer& writer, bool replaces, int number);
 

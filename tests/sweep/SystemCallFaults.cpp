@@ -57,7 +57,7 @@ void noteName(const char* path)
     struct stat status
     {
     };
-    if (::stat(path, &status) == 0 && unsynced.count(status.st_ino) != 0)
+    if (::stat(path, &status) == 0 && unsynced.contains(status.st_ino))
         ++unsyncedNames;
 }
 

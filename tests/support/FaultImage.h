@@ -9,9 +9,6 @@
 class FaultImage
 {
 public:
-    FaultImage() = default;
-    explicit FaultImage(QByteArrayView content) { write(0, content); }
-
     [[nodiscard]] qint64 size() const { return length; }
     // Copies what lies at `offset` and returns how many bytes there were.
     [[nodiscard]] qint64 read(qint64 offset, char* target, qint64 count) const;

@@ -28,8 +28,6 @@ public:
     {
     }
 
-    [[nodiscard]] QString storePath() const { return directory + QStringLiteral("/Marrowvale.sqlite"); }
-
     // Calls `onFailure`, adds a film and saves all that is unsaved, which must succeed. Opens the store if
     // need be.
     void settle();

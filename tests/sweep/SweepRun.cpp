@@ -32,6 +32,19 @@ void runScript(Database& database, const QString& path)
         ASSERT_TRUE(database.run(statement)) << statement.constData();
 }
 
+// A store as the first version of the program left it, and what is in it.
+SweepStart oldestStore(FaultFileSystem& system, const SweepJourney::Stage& stage)
+{
+    system.insert({});
+    SweptCatalogue catalogue;
+    {
+        const auto database = Database::open(storePath, Database::Access::ReadWrite).value();
+        runScript(*database, QStringLiteral(MARROWVALE_SOURCE_DIR "/tests/data/catalogue-version-1.sql"));
+        catalogue.others = linesOf(*database).value();
+    }
+    return {stage, system.disk.images(), catalogue};
+}
+
 } // namespace
 
 void SweepHistory::follow(SweepJourney& journey, const std::function<void()>& handler)
@@ -56,18 +69,6 @@ std::optional<std::size_t> SweepHistory::find(const QByteArrayList& found, std::
             return index;
     }
     return std::nullopt;
-}
-
-SweepStart oldestStore(FaultFileSystem& system, const SweepJourney::Stage& stage)
-{
-    system.insert({});
-    SweptCatalogue catalogue;
-    {
-        const auto database = Database::open(storePath, Database::Access::ReadWrite).value();
-        runScript(*database, QStringLiteral(MARROWVALE_SOURCE_DIR "/tests/data/catalogue-version-1.sql"));
-        catalogue.others = linesOf(*database).value();
-    }
-    return {stage, system.disk.images(), catalogue};
 }
 
 std::vector<SweepStart> sweepStarts(FaultFileSystem& system)

@@ -51,9 +51,6 @@ struct SweepStart
 // For each stage, what the stages before it leave when nothing fails.
 [[nodiscard]] std::vector<SweepStart> sweepStarts(FaultFileSystem& system);
 
-// A store as the first version of the program left it, and what is in it.
-[[nodiscard]] SweepStart oldestStore(FaultFileSystem& system, const SweepJourney::Stage& stage);
-
 // Opens the store on a disk that holds `images`, as the program does, and reads it.
 [[nodiscard]] Result<QByteArrayList> contentOf(FaultFileSystem& system, const FaultImages& images);
 

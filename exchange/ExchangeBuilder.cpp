@@ -1,8 +1,7 @@
 #include "exchange/ExchangeBuilder.h"
 
-#include "platform/foundation/DispatchQueue.h"
+#include "platform/foundation/Background.h"
 
-#include <QPointer>
 #include <QThread>
 
 namespace {
@@ -30,20 +29,30 @@ Result<QString> recordsOf(const std::vector<ExchangeValues>& batch)
 
 } // namespace
 
+ExchangeBuilder::~ExchangeBuilder()
+{
+    cancel();
+}
+
 void ExchangeBuilder::start(MovieRecords movies, std::function<void()> written,
                             std::function<void(const Result<QString>&)> finished)
 {
-    ++currentRun;
+    cancel();
     source = std::move(movies);
     nextMovie = nextBatch = nextTaken = 0;
     early.clear();
     text = exchangeOpening();
     recordWritten = std::move(written);
     done = std::move(finished);
-    DispatchQueue::main().async([builder = QPointer(this), run = currentRun] {
-        if (builder && builder->currentRun == run)
-            builder->readSome();
-    });
+    // Reading begins once an empty batch is back, so that the caller isn't kept waiting.
+    write({});
+}
+
+void ExchangeBuilder::cancel()
+{
+    for (auto& [number, batch] : underWay)
+        batch.cancel();
+    underWay.clear();
 }
 
 void ExchangeBuilder::readSome()
@@ -53,24 +62,25 @@ void ExchangeBuilder::readSome()
         std::vector<ExchangeValues> batch;
         for (; nextMovie < end; ++nextMovie)
             batch.push_back(exchangeValues(*source[nextMovie]));
-        DispatchQueue::global().async(
-            [builder = QPointer(this), run = currentRun, number = nextBatch, batch = std::move(batch)] {
-                const auto movies = static_cast<qsizetype>(batch.size());
-                DispatchQueue::main().async([builder, run, number, movies, records = recordsOf(batch)] {
-                    if (builder)
-                        builder->take(run, number, movies, records);
-                });
-            });
-        ++nextBatch;
+        write(std::move(batch));
     }
     if (nextTaken == nextBatch)
         finish(text);
 }
 
-void ExchangeBuilder::take(int run, std::size_t batch, qsizetype movies, const Records& records)
+void ExchangeBuilder::write(std::vector<ExchangeValues> batch)
 {
-    if (run != currentRun)
-        return;
+    const auto movies = static_cast<qsizetype>(batch.size());
+    const std::size_t number = nextBatch++;
+    underWay[number] =
+        background(Pool::allCores(), [batch = std::move(batch)] {
+            return recordsOf(batch);
+        }).then(*this, [this, number, movies](const Records& records) { take(number, movies, records); });
+}
+
+void ExchangeBuilder::take(std::size_t batch, qsizetype movies, const Records& records)
+{
+    underWay.erase(batch);
     if (!records) {
         finish(records.error());
         return;
@@ -88,6 +98,8 @@ void ExchangeBuilder::take(int run, std::size_t batch, qsizetype movies, const R
 
 void ExchangeBuilder::finish(const Result<QString>& result)
 {
-    ++currentRun;
-    done(result);
+    cancel();
+    // The handler may start the next run.
+    const auto handler = std::exchange(done, nullptr);
+    handler(result);
 }

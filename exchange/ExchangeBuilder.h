@@ -3,6 +3,7 @@
 #include "exchange/ExchangeWriter.h"
 #include "model/Movies.h"
 
+#include <QFuture>
 #include <map>
 
 // Writes the exchange text of many movies without keeping the user waiting: they are read on the main queue,
@@ -15,22 +16,25 @@ public:
     using MovieRecords = std::vector<std::shared_ptr<Movies>>;
 
     using QObject::QObject;
+    ~ExchangeBuilder() override;
 
     // Writes `movies` in their order. Calls `written` for each record, in order, and then `finished` with the
-    // whole text or the first error, all on the main queue and never before this returns. A run that goes on
-    // is given up.
+    // whole text or the first error, all on the main queue and never before this returns. Cancels
+    // the run before.
     void start(MovieRecords movies, std::function<void()> written,
                std::function<void(const Result<QString>&)> finished);
 
 private:
     using Records = Result<QString>;
 
+    void cancel();
     void readSome();
-    void take(int run, std::size_t batch, qsizetype movies, const Records& records);
+    void write(std::vector<ExchangeValues> batch);
+    void take(std::size_t batch, qsizetype movies, const Records& records);
     void finish(const Result<QString>& result);
 
-    // Counts starts, so that what comes in from a run given up is known.
-    int currentRun = 0;
+    // By the number of their batch.
+    std::map<std::size_t, QFuture<Records>> underWay;
     MovieRecords source;
     std::size_t nextMovie = 0;
     std::size_t nextBatch = 0;

@@ -3,6 +3,7 @@
 #include "exchange/ExchangeButton.h"
 #include "exchange/TemporaryFile.h"
 #include "model/AppDelegate.h"
+#include "platform/foundation/Background.h"
 #include "platform/foundation/Console.h"
 #include "platform/foundation/DispatchQueue.h"
 #include "platform/services/UIActivityViewController.h"
@@ -101,36 +102,47 @@ void ExportViewController::announceFile()
 
 void ExportViewController::SaveToFiles()
 {
+    if (activityIndicator->isAnimating())
+        return;
+    activityIndicator->startAnimating();
     const QString path = temporaryFilePath(exchangeFileName);
-    // Ignored: the system reports no failure here. The sheet's activities then find no file and say so.
-    (void)writeTemporaryFile(path, DataString.value_or(QString()));
-    present(std::make_unique<UIActivityViewController>(std::vector<ActivityItem>{QUrl::fromLocalFile(path)},
-                                                       activitiesOtherThanSaving()));
+    background(Pool::inOrder(), [path, text = DataString.value_or(QString())] {
+        return writeTemporaryFile(path, text);
+    }).then(*this, [this, path](const Status& /*written*/) {
+        // A failure to write isn't reported. The sheet's activities then find no file and say so.
+        activityIndicator->stopAnimating();
+        present(std::make_unique<UIActivityViewController>(
+            std::vector<ActivityItem>{QUrl::fromLocalFile(path)}, activitiesOtherThanSaving()));
+    });
 }
 
 void ExportViewController::WriteTextFile()
 {
+    if (activityIndicator->isAnimating())
+        return;
+    activityIndicator->startAnimating();
     const QString path = temporaryFilePath(exchangeFileName);
-    if (writeTemporaryFile(path, ExportTextView->text()))
-        if (const auto written = bytesOfTemporaryFile(path))
-            ExportTextView->setText(QString::fromUtf8(*written));
-    if (MFMailComposeViewController::canSendMail())
-        composeMail(path);
-    else
-        present(UIAlertController::withOk(QStringLiteral("Sending Email"),
-                                          QStringLiteral("Email not Setup or Unavailable")));
+    background(Pool::inOrder(), [path, text = ExportTextView->text()] {
+        return rewrittenTemporaryFile(path, text);
+    }).then(*this, [this, path](const std::optional<QString>& written) {
+        activityIndicator->stopAnimating();
+        if (written)
+            ExportTextView->setText(*written);
+        if (!MFMailComposeViewController::canSendMail())
+            present(UIAlertController::withOk(QStringLiteral("Sending Email"),
+                                              QStringLiteral("Email not Setup or Unavailable")));
+        else if (written)
+            composeMail(path);
+    });
 }
 
 void ExportViewController::composeMail(const QString& path)
 {
-    const auto file = bytesOfTemporaryFile(path);
-    if (!file)
-        return;
     auto composer = std::make_unique<MFMailComposeViewController>();
     composer->setMailComposeDelegate(this);
     composer->setSubject(QStringLiteral("Marrowvale Update Text File"));
     composer->setMessageBody(QStringLiteral("Attachment: Marrowvale Text File"), false);
-    composer->addAttachmentData(*file, QStringLiteral("csv"), exchangeFileName);
+    composer->addAttachmentFile(QUrl::fromLocalFile(path), QStringLiteral("csv"));
     present(std::move(composer));
 }
 

@@ -29,9 +29,11 @@ public:
 
     // Makes the file's text. A cover that is no picture ends the program.
     Q_INVOKABLE void CreateUpdateFile();
-    // Writes the text as it was made and offers the file.
+    // Writes the text as it was made on another thread, then offers the file. Does nothing while a file is
+    // being made or written.
     Q_INVOKABLE void SaveToFiles();
-    // Writes the text as it is shown, perhaps edited, and mails the file. Neither tells when writing fails.
+    // Does the same with the text as it is shown, perhaps edited, and mails the file. Neither reports that
+    // writing fails.
     Q_INVOKABLE void WriteTextFile();
     void mailComposeController(MFMailComposeViewController& controller, MFMailComposeResult result) override;
 

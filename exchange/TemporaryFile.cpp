@@ -18,8 +18,10 @@ Status writeTemporaryFile(const QString& path, const QString& text)
     return written;
 }
 
-std::optional<QByteArray> bytesOfTemporaryFile(const QString& path)
+std::optional<QString> rewrittenTemporaryFile(const QString& path, const QString& text)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? std::optional(file.readAll()) : std::nullopt;
+    if (!writeTemporaryFile(path, text) || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return QString::fromUtf8(file.readAll());
 }

@@ -1,6 +1,7 @@
 #include "storyboard/MainWindow.h"
 
 #include "model/AppDelegate.h"
+#include "platform/foundation/Pool.h"
 #include "platform/toolkit/UIAlertController.h"
 #include "platform/toolkit/UIBarButtonItem.h"
 #include "storyboard/SceneStage.h"
@@ -9,7 +10,6 @@
 #include <QFontMetricsF>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QThreadPool>
 
 namespace {
 
@@ -20,7 +20,7 @@ constexpr QSize smallestSize(360, 480);
 // another core does it meanwhile.
 void listFonts()
 {
-    QThreadPool::globalInstance()->start([] { static_cast<void>(QFontMetricsF(QFont()).height()); });
+    Pool::allCores().start([] { static_cast<void>(QFontMetricsF(QFont()).height()); });
 }
 
 } // namespace

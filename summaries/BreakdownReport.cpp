@@ -1,5 +1,5 @@
+#include "platform/foundation/Background.h"
 #include "platform/foundation/Console.h"
-#include "platform/foundation/DispatchQueue.h"
 #include "platform/foundation/FileWriting.h"
 #include "platform/pdf/PdfFile.h"
 #include "platform/services/TextSharing.h"
@@ -8,7 +8,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QPointer>
 
 // The part of the screen that makes its report.
 
@@ -52,14 +51,12 @@ void BreakdownTableViewController::shareButtonClicked()
 void BreakdownTableViewController::writeReport(const QString& title)
 {
     activityIndicator->startAnimating();
-    DispatchQueue::serial().async(
-        [screen = QPointer(this), text = MovieString, title, path = outputFileURL.toLocalFile()] {
-            const QString outcome = outcomeOf(writeToFolder(pdfOf(text, paperSize, title), path), path);
-            DispatchQueue::main().async([screen, outcome] {
-                if (screen)
-                    screen->presentReport(outcome);
-            });
-        });
+    auto write = [text = MovieString, title, path = outputFileURL.toLocalFile()] {
+        return outcomeOf(writeToFolder(pdfOf(text, paperSize, title), path), path);
+    };
+    background(Pool::inOrder(), std::move(write)).then(*this, [this](const QString& outcome) {
+        presentReport(outcome);
+    });
 }
 
 void BreakdownTableViewController::presentReport(const QString& outcome)

@@ -14,10 +14,11 @@ struct TourDevice::SelfAnsweringDocuments : Documents
         QMetaObject::invokeMethod(&later, answer, Qt::QueuedConnection);
     }
     void cancelPicking() override {}
-    void saveDocument(const QString& name, const QByteArray& content, Saved saved) override
+    void saveDocument(const QString& name, std::shared_ptr<QIODevice> content, Saved saved) override
     {
         QFile file(QDir(folder).filePath(name));
-        const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+        const QByteArray bytes = content->readAll();
+        const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
         saved(written ? QString() : file.errorString());
     }
 

@@ -5,7 +5,8 @@
 
 // A folder of the program's own for files that nobody needs once the object is destroyed. It lies in the
 // user's cache directory, and only the user may enter it. Constructing one also removes the folders that
-// killed programs left; those of running programs stay. Use it on one thread.
+// killed programs left; those of running programs stay. Use it on one thread
+// at a time.
 class TemporaryFolder
 {
 public:

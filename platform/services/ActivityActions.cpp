@@ -7,6 +7,7 @@
 #include "platform/toolkit/UIAlertController.h"
 #include "platform/toolkit/UIBarButtonItem.h"
 
+#include <QIODevice>
 #include <QPointer>
 
 namespace {
@@ -14,7 +15,7 @@ namespace {
 struct NamedContent
 {
     QString name;
-    QByteArray content;
+    std::shared_ptr<QIODevice> content;
 };
 
 const QString sharedPicture = QStringLiteral("Shared.png");
@@ -23,7 +24,7 @@ Result<NamedContent> contentToSave(const ActivityItems& items)
 {
     const QList<QUrl> files = filesOf(items);
     if (!files.isEmpty()) {
-        const Result<QByteArray> content = readFile(files.first().toLocalFile());
+        const auto content = openFile(files.first().toLocalFile());
         if (content)
             return NamedContent{files.first().fileName(), content.value()};
         return content.error();
@@ -31,8 +32,8 @@ Result<NamedContent> contentToSave(const ActivityItems& items)
     const QString words = wordsOf(items);
     const QList<QImage> pictures = picturesOf(items);
     if (pictures.isEmpty() || !words.isEmpty())
-        return NamedContent{QStringLiteral("Shared.txt"), words.toUtf8()};
-    return NamedContent{sharedPicture, pngOf(pictures.first())};
+        return NamedContent{QStringLiteral("Shared.txt"), openBytes(words.toUtf8())};
+    return NamedContent{sharedPicture, openBytes(pngOf(pictures.first()))};
 }
 
 } // namespace

@@ -9,16 +9,20 @@ namespace {
 
 constexpr auto onlyForOwner = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 
+Result<std::shared_ptr<QIODevice>> openContent(const MailAttachment& attachment)
+{
+    if (const auto* bytes = std::get_if<QByteArray>(&attachment.content))
+        return openBytes(*bytes);
+    return openFile(std::get<QUrl>(attachment.content).toLocalFile());
+}
+
 bool writeAttachment(const MailAttachment& attachment, const QString& path)
 {
     QFile target(path);
     if (!target.open(QIODevice::WriteOnly | QIODevice::NewOnly, onlyForOwner))
         return false;
-    const auto* bytes = std::get_if<QByteArray>(&attachment.content);
-    const bool isWritten = bytes != nullptr
-                               ? target.write(*bytes) == bytes->size()
-                               : copyBytes(std::get<QUrl>(attachment.content).toLocalFile(), target).ok();
-    return isWritten && target.flush();
+    const auto source = openContent(attachment);
+    return source && copyBytes(*source.value(), target) && target.flush();
 }
 
 } // namespace

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QByteArray>
+#include <QIODevice>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
 #include <functional>
+#include <memory>
 #include <optional>
 
 // The user's files, reached through the desktop's own file dialogs. Nothing blocks: the outcome is told
@@ -26,9 +27,11 @@ public:
     // Takes the dialog away, untold; none open: does nothing.
     virtual void cancelPicking() = 0;
 
-    // Empty: saved. Else a sentence for people.
+    // Empty on success; otherwise a message that can be shown to the user.
     using Saved = std::function<void(const QString& problem)>;
-    // Asks where to save `content`, suggesting `name`, and writes it there whole or not at all. A cancelled
-    // dialog tells nothing.
-    virtual void saveDocument(const QString& name, const QByteArray& content, Saved saved) = 0;
+    // Asks where to save `content`, suggesting `name`, and writes it there on another thread, whole or not at
+    // all. `content` must be open for reading; it is read from where it stands, and nobody else may use it
+    // any more. `saved` is not called if the dialog is cancelled. The end of the program waits for what is
+    // being written.
+    virtual void saveDocument(const QString& name, std::shared_ptr<QIODevice> content, Saved saved) = 0;
 };

@@ -2,47 +2,54 @@
 
 #include "platform/foundation/FileWriting.h"
 
+#include <QBuffer>
 #include <QFile>
 
 namespace {
 
 constexpr qsizetype pieceOfFile = 1 << 20;
 
-NSError errorOf(const QFileDevice& file)
-{
-    return {file.errorString(), {}};
-}
-
 } // namespace
 
-Result<QByteArray> readFile(const QString& path)
+Result<std::shared_ptr<QIODevice>> openFile(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return errorOf(file);
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return errorOf(file);
-    return bytes;
+    auto file = std::make_shared<QFile>(path);
+    if (file->open(QIODevice::ReadOnly))
+        return std::shared_ptr<QIODevice>(std::move(file));
+    return NSError{file->errorString(), {}};
 }
 
-Status copyBytes(const QString& path, QFileDevice& target)
+std::shared_ptr<QIODevice> openBytes(const QByteArray& bytes)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return errorOf(file);
-    while (!file.atEnd()) {
-        const QByteArray piece = file.read(pieceOfFile);
-        if (file.error() != QFileDevice::NoError)
-            return errorOf(file);
-        if (const Status written = writeAll(target, piece); !written)
+    auto buffer = std::make_shared<QBuffer>();
+    buffer->setData(bytes);
+    // Ignored: a buffer can always be opened.
+    (void)buffer->open(QIODevice::ReadOnly);
+    return buffer;
+}
+
+Status copyBytes(QIODevice& source, QFileDevice& target)
+{
+    QByteArray piece(pieceOfFile, Qt::Uninitialized);
+    for (;;) {
+        const qint64 size = source.read(piece.data(), piece.size());
+        if (size < 0)
+            return NSError{source.errorString(), {}};
+        if (size == 0)
+            return success();
+        if (const Status written = writeAll(target, QByteArrayView(piece).first(size)); !written)
             return written;
     }
-    return success();
 }
 
-Status copyFile(const QString& path, const QString& copy)
+Status saveBytes(QIODevice& source, const QString& path)
 {
-    return replaceAtomically(copy, FileReaders::AsUsual,
-                             [&](QFileDevice& target) { return copyBytes(path, target); });
+    return replaceAtomically(path, FileReaders::AsUsual,
+                             [&](QFileDevice& target) { return copyBytes(source, target); });
+}
+
+Status copyFile(const QString& source, const QString& path)
+{
+    const auto opened = openFile(source);
+    return opened ? saveBytes(*opened.value(), path) : Status(opened.error());
 }

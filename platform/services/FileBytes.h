@@ -2,14 +2,23 @@
 
 #include "platform/foundation/Result.h"
 
+#include <QByteArray>
+#include <memory>
+
 class QFileDevice;
+class QIODevice;
 
-// All of these run on any thread.
+// Bytes on their way to a file. Everything here runs on any thread, and none of it holds a whole file in
+// memory.
 
-[[nodiscard]] Result<QByteArray> readFile(const QString& path);
+// Returns the file at `path`, open for reading. It keeps its bytes even if `path` is removed or replaced.
+[[nodiscard]] Result<std::shared_ptr<QIODevice>> openFile(const QString& path);
+// Returns `bytes` as such a file.
+[[nodiscard]] std::shared_ptr<QIODevice> openBytes(const QByteArray& bytes);
 
-// Appends what the file at `path` holds to `target`, which is open, piece by piece.
-[[nodiscard]] Status copyBytes(const QString& path, QFileDevice& target);
+// Appends what `source` has left to `target`. Both must be open.
+[[nodiscard]] Status copyBytes(QIODevice& source, QFileDevice& target);
 
-// Puts a copy of the file at `path` in the place of `copy`, whole or not at all.
-[[nodiscard]] Status copyFile(const QString& path, const QString& copy);
+// Puts what `source` has left in the place of the file at `path`, whole or not at all.
+[[nodiscard]] Status saveBytes(QIODevice& source, const QString& path);
+[[nodiscard]] Status copyFile(const QString& source, const QString& path);

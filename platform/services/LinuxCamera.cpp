@@ -1,21 +1,23 @@
 #include "platform/services/LinuxCamera.h"
 
+#include "platform/foundation/Pool.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QPluginLoader>
-#include <thread>
+#include <QThread>
 
 namespace {
 
 // The first list of cameras is made by a media library that looks for its own plugins, then asks every source
 // of video and sound. Measured: 20 to 60 ms; 320 ms at the first use of a fresh account; a minute where the
-// sound server takes the connection and does not answer. So it is made on a thread of its own, and waited for
-// this long; a list that comes later serves the next question.
+// sound server takes the connection and does not answer. So it is made in the pool for such code, and waited
+// for this long; a list that comes later serves the next question.
 constexpr auto patience = std::chrono::seconds(2);
 
-// What a plugin has but one of, with its list of cameras made; null: the file holds none.
-Camera* cameraIn(const QString& pluginFile)
+// The plugin's single camera with its device list loaded; null if the file contains none.
+Camera* cameraIn(const QString& pluginFile, QThread* mainThread)
 {
     QPluginLoader loader(pluginFile);
     QObject* root = loader.instance();
@@ -24,16 +26,16 @@ Camera* cameraIn(const QString& pluginFile)
         qWarning("There is no camera: %s", qPrintable(loader.errorString()));
         return nullptr;
     }
-    root->moveToThread(QCoreApplication::instance()->thread());
+    root->moveToThread(mainThread);
     static_cast<void>(camera->isAvailable());
     return camera;
 }
 
-Camera* firstCamera(const QStringList& pluginFiles)
+Camera* firstCamera(const QStringList& pluginFiles, QThread* mainThread)
 {
     for (const QString& file : pluginFiles)
         if (QFile::exists(file))
-            if (Camera* camera = cameraIn(file))
+            if (Camera* camera = cameraIn(file, mainThread))
                 return camera;
     return nullptr;
 }
@@ -59,11 +61,11 @@ LinuxCamera::~LinuxCamera()
 
 void LinuxCamera::beginSearch()
 {
-    std::packaged_task<Camera*()> task([files = pluginFiles] { return firstCamera(files); });
-    search = task.get_future().share();
+    const auto task = std::make_shared<std::packaged_task<Camera*()>>(
+        [files = pluginFiles, thread = QThread::currentThread()] { return firstCamera(files, thread); });
+    search = task->get_future().share();
     searchEnd = std::chrono::steady_clock::now() + patience;
-    // Nothing could stop it, so nobody may have to wait for it.
-    std::thread(std::move(task)).detach();
+    Pool::mayHang().start([task] { (*task)(); });
 }
 
 bool LinuxCamera::isAvailable()

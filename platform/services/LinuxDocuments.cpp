@@ -1,7 +1,8 @@
 #include "platform/services/LinuxDocuments.h"
 
-#include "platform/foundation/FileWriting.h"
+#include "platform/foundation/Background.h"
 #include "platform/services/DialogStacking.h"
+#include "platform/services/FileBytes.h"
 
 #include <QFileDialog>
 #include <QGuiApplication>
@@ -23,11 +24,16 @@ void LinuxDocuments::pickDocument(const Request& request, Picked picked)
     opened.open();
 }
 
-void LinuxDocuments::saveDocument(const QString& name, const QByteArray& content, Saved saved)
+void LinuxDocuments::saveDocument(const QString& name, std::shared_ptr<QIODevice> content, Saved saved)
 {
-    const auto save = [content, tell = std::move(saved)](const QList<QUrl>& chosen) {
-        if (!chosen.isEmpty())
-            tell(problemOf(writeAtomically(content, chosen.first().toLocalFile())));
+    const auto save = [this, content = std::move(content),
+                       saved = std::move(saved)](const QList<QUrl>& chosen) {
+        if (chosen.isEmpty())
+            return;
+        // In order, so that the file chosen twice holds what was saved last.
+        background(Pool::inOrder(), [content, path = chosen.first().toLocalFile()] {
+            return saveBytes(*content, path);
+        }).then(works, [saved](const Status& written) { saved(problemOf(written)); });
     };
     QFileDialog& opened = newDialog(QStringLiteral("Save to Files"), save);
     opened.setAcceptMode(QFileDialog::AcceptSave);

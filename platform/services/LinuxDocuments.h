@@ -14,7 +14,7 @@ public:
 
     void pickDocument(const Request& request, Picked picked) override;
     void cancelPicking() override;
-    void saveDocument(const QString& name, const QByteArray& content, Saved saved) override;
+    void saveDocument(const QString& name, std::shared_ptr<QIODevice> content, Saved saved) override;
 
 private:
     // Empty: cancelled.
@@ -23,4 +23,6 @@ private:
     QFileDialog& newDialog(const QString& title, Answered answered);
 
     QPointer<QFileDialog> dialog;
+    // Owns the handlers of files that are being written.
+    QObject works;
 };

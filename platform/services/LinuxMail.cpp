@@ -1,9 +1,9 @@
 #include "platform/services/LinuxMail.h"
 
+#include "platform/foundation/Background.h"
 #include "platform/services/AddressHandlers.h"
 #include "platform/services/AttachmentFiles.h"
 #include "platform/services/Command.h"
-#include "platform/services/InBackground.h"
 #include "platform/services/MailText.h"
 
 #include <QDBusMetaType>
@@ -57,20 +57,22 @@ bool LinuxMail::canSendMail() const
 
 void LinuxMail::compose(const MailMessage& message, Told told)
 {
-    folders.push_back(std::make_unique<TemporaryFolder>());
-    const auto prepare = [message, folder = folders.back()->path()]() -> Result<Prepared> {
+    folders.push_back(std::make_shared<TemporaryFolder>());
+    // Holds the folder, so that it isn't removed while files are written to it.
+    auto prepare = [message, folder = folders.back(), path = folders.back()->path()]() -> Result<Prepared> {
         const MailMessage tamed = tamedMail(message);
-        const Result<QStringList> files = writeAttachments(folder, tamed.attachments);
+        const Result<QStringList> files = writeAttachments(path, tamed.attachments);
         if (files)
             return Prepared{tamed, files.value()};
         return files.error();
     };
-    inBackground(works, prepare, [this, tell = std::move(told)](const Result<Prepared>& mail) {
-        if (mail)
-            handOver(mail.value(), tell);
-        else
-            tell(MFMailComposeResult::Failed);
-    });
+    background(Pool::allCores(), std::move(prepare))
+        .then(works, [this, told = std::move(told)](const Result<Prepared>& mail) {
+            if (mail)
+                handOver(mail.value(), told);
+            else
+                told(MFMailComposeResult::Failed);
+        });
 }
 
 void LinuxMail::handOver(const Prepared& mail, const Told& told)

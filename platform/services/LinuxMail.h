@@ -28,7 +28,7 @@ private:
 
     QDBusConnection bus;
     PortalRequest::Limits limits;
-    std::vector<std::unique_ptr<TemporaryFolder>> folders;
+    std::vector<std::shared_ptr<TemporaryFolder>> folders;
     // Owns what is under way: goes before all else.
     QObject works;
 };

@@ -1,9 +1,9 @@
 #include "platform/services/LinuxPrinter.h"
 
+#include "platform/foundation/Background.h"
 #include "platform/services/Device.h"
 #include "platform/services/DialogStacking.h"
 #include "platform/services/FileBytes.h"
-#include "platform/services/InBackground.h"
 #include "platform/services/MailText.h"
 #include "platform/services/PdfRendering.h"
 #include "platform/services/PendingPrint.h"
@@ -114,29 +114,26 @@ void LinuxPrinter::send(const Job& job, const PrintTarget& target)
         if (target.file.isEmpty())
             spool(works, target, job->job.name, pages, told);
         else
-            inBackground(
-                works, [pages, file = target.file] { return copyFile(pages, file); },
-                [told](const Status& copied) { told(problemOf(copied)); });
+            background(Pool::inOrder(), [pages, file = target.file] {
+                return copyFile(pages, file);
+            }).then(works, [told](const Status& copied) { told(problemOf(copied)); });
     });
 }
 
 void LinuxPrinter::offerAsFile(const Job& job)
 {
     offered = job;
-    const auto offer = [this, job](const Result<QByteArray>& pages) {
+    withPages(job, {.layout = pageOfTheCountry()}, [this, job](const QString& path) {
         if (offered.lock() != job)
             return; // cancelled meanwhile
+        const auto pages = openFile(path);
         if (!pages) {
             job->end(problemOf(pages));
             return;
         }
-        // A cancelled dialog tells nothing, but lets go of the job.
+        // A cancelled dialog doesn't call the handler, but releases the job.
         Device::current().documents->saveDocument(fileNameFor(job->job.name), pages.value(),
                                                   [job](const QString& problem) { job->end(problem); });
-    };
-    withPages(job, {.layout = pageOfTheCountry()}, [this, offer](const QString& path) {
-        inBackground(
-            works, [path] { return readFile(path); }, offer);
     });
 }
 
@@ -151,7 +148,7 @@ void LinuxPrinter::withPages(const Job& job, const PageSetup& setup,
     const auto render = [content = job->job.content, setup, name = job->job.name, path] {
         return renderPdf(content, setup, name, path);
     };
-    inBackground(works, render, [job, path, then](const Status& rendered) {
+    background(Pool::allCores(), render).then(works, [job, path, then](const Status& rendered) {
         if (rendered)
             then(path);
         else

@@ -23,9 +23,9 @@ void MFMailComposeViewController::addAttachmentData(const QByteArray& data, cons
     message.attachments.push_back({fileName, mimeType, data});
 }
 
-void MFMailComposeViewController::addAttachmentFile(const QUrl& file)
+void MFMailComposeViewController::addAttachmentFile(const QUrl& file, const QString& mimeType)
 {
-    message.attachments.push_back({file.fileName(), {}, file});
+    message.attachments.push_back({file.fileName(), mimeType, file});
 }
 
 void MFMailComposeViewController::viewWillAppear(bool /*animated*/)

@@ -33,8 +33,8 @@ public:
     void setSubject(const QString& subject) { message.subject = subject; }
     void setMessageBody(const QString& body, bool isHTML);
     void addAttachmentData(const QByteArray& data, const QString& mimeType, const QString& fileName);
-    // A file as it stands, of the type that its name tells; it must stay until the delegate is told.
-    void addAttachmentFile(const QUrl& file);
+    // A file as it stands; it must stay until the delegate is called. Empty `mimeType`: what its name says.
+    void addAttachmentFile(const QUrl& file, const QString& mimeType = {});
 
     void viewWillAppear(bool animated) override;
     [[nodiscard]] bool isModal() const override { return false; }

@@ -1,10 +1,7 @@
 #include "platform/store/StoreRest.h"
 
-#include "platform/foundation/DispatchQueue.h"
+#include "platform/foundation/Background.h"
 #include "platform/store/StoreGeneration.h"
-
-#include <QString>
-#include <chrono>
 
 namespace {
 
@@ -14,66 +11,54 @@ constexpr int quietTicksUntilRest = 4;
 
 } // namespace
 
-// Outlives the object while work that was queued still holds it.
-struct StoreRest::State
-{
-    QString path;
-    // Saves since the log was last empty, as far as this program knows.
-    quint64 saves = 0;
-    int quietTicks = 0;
-    bool isWaiting = false;
-    bool isOver = false;
-};
-
 StoreRest::StoreRest(QString path)
-    : state(std::make_shared<State>())
+    : path(std::move(path))
 {
-    state->path = std::move(path);
-    if (hasLog(state->path))
+    if (hasLog(this->path))
         noteSave(success());
 }
 
 StoreRest::~StoreRest()
 {
-    state->isOver = true;
     // Ignored: the log stays, and the next opening reads it.
-    if (state->saves > 0)
-        (void)moveLogIntoFile(state->path).ok();
+    if (saves > 0)
+        (void)moveLogIntoFile(path).ok();
 }
 
 void StoreRest::noteSave(const Status& saved)
 {
     if (!saved)
         return;
-    ++state->saves;
-    state->quietTicks = 0;
-    if (!std::exchange(state->isWaiting, true))
-        waitForRest(state);
+    ++saves;
+    quietTicks = 0;
+    if (!std::exchange(isWaiting, true))
+        waitForRest();
 }
 
-void StoreRest::waitForRest(const std::shared_ptr<State>& state)
+void StoreRest::waitForRest()
 {
-    DispatchQueue::main().asyncAfter(tick, [state] {
-        if (state->isOver)
+    DispatchQueue::main().asyncAfter(tick, [rest = QPointer(this)] {
+        if (!rest)
             return;
-        if (++state->quietTicks < quietTicksUntilRest)
-            waitForRest(state);
+        if (++rest->quietTicks < quietTicksUntilRest)
+            rest->waitForRest();
         else
-            moveLog(state);
+            rest->moveLog();
     });
 }
 
-void StoreRest::moveLog(const std::shared_ptr<State>& state)
+void StoreRest::moveLog()
 {
-    DispatchQueue::serial().async([state, path = state->path, before = state->saves] {
-        const bool isMoved = moveLogIntoFile(path).ok();
-        DispatchQueue::main().async([state, isMoved, before] {
-            if (isMoved)
-                state->saves -= before;
-            state->quietTicks = 0;
-            state->isWaiting = state->saves > 0;
-            if (state->isWaiting)
-                waitForRest(state);
-        });
-    });
+    background(Pool::inOrder(), [path = path] {
+        return moveLogIntoFile(path).ok();
+    }).then(*this, [this, before = saves](bool isMoved) { finishMove(isMoved ? before : 0); });
+}
+
+void StoreRest::finishMove(quint64 movedSaves)
+{
+    saves -= movedSaves;
+    quietTicks = 0;
+    isWaiting = saves > 0;
+    if (isWaiting)
+        waitForRest();
 }

@@ -1,5 +1,8 @@
 #include "platform/services/LinuxDocuments.h"
 
+#include "platform/services/FileBytes.h"
+#include "tests/support/ManualQueue.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -59,11 +62,12 @@ protected:
 
     void save(const QByteArray& content)
     {
-        documents->saveDocument("Shared.txt", content, [this](const QString& problem) {
+        documents->saveDocument("Shared.txt", openBytes(content), [this](const QString& problem) {
             told.append(problem.isEmpty() ? "saved" : "problem");
         });
     }
 
+    ManualQueue queue;
     std::unique_ptr<LinuxDocuments> documents = std::make_unique<LinuxDocuments>();
     QStringList told;
 };
@@ -74,6 +78,8 @@ TEST_F(LinuxDocumentsTest, SavesEveryByteWhereTheUserSays)
     save(content);
     EXPECT_EQ(QFileInfo(shownDialog()->selectedFiles().value(0)).fileName(), QString("Shared.txt"));
     enter(QDir::home().filePath("here.txt"));
+    EXPECT_TRUE(told.isEmpty()) << "the file is written on another thread";
+    queue.advance({});
     EXPECT_EQ(told, QStringList("saved"));
     QFile file(QDir::home().filePath("here.txt"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -129,6 +135,7 @@ TEST_F(LinuxDocumentsTest, APlaceThatTakesNoFileIsAProblem)
 {
     save("x");
     enter("/proc/Shared.txt");
+    queue.advance({});
     EXPECT_EQ(told, QStringList("problem"));
 }
 

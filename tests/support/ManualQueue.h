@@ -1,10 +1,12 @@
 #pragma once
 
 #include "platform/foundation/DispatchQueue.h"
+#include "tests/support/ImmediatePool.h"
 
 #include <map>
 
-// The main queue for as long as it lives, with a clock that moves only by hand.
+// The main queue for as long as it lives, with a clock that moves only by hand. Meanwhile the pools run their
+// tasks at once, so that a whole journey stays on the test's thread.
 class ManualQueue final : public DispatchQueue
 {
 public:
@@ -32,4 +34,6 @@ private:
     std::chrono::milliseconds now{};
     std::multimap<std::chrono::milliseconds, Work> waiting;
     const MainScope scope{*this};
+    ImmediatePool pool;
+    const Pool::Scope poolScope{pool, pool};
 };

@@ -62,9 +62,9 @@ void RecordingDevice::RecordingDocuments::pickDocument(const Request& asked, Pic
     picked = std::move(tell);
 }
 
-void RecordingDevice::RecordingDocuments::saveDocument(const QString& name, const QByteArray& content,
-                                                       Saved tell)
+void RecordingDevice::RecordingDocuments::saveDocument(const QString& name,
+                                                       std::shared_ptr<QIODevice> content, Saved tell)
 {
-    saved.push_back({name, content});
+    saved.push_back({name, content->readAll()});
     tell(problem);
 }

@@ -66,7 +66,7 @@ struct RecordingDevice : Device
     {
         void pickDocument(const Request& asked, Picked tell) override;
         void cancelPicking() override { picked = nullptr; }
-        void saveDocument(const QString& name, const QByteArray& content, Saved tell) override;
+        void saveDocument(const QString& name, std::shared_ptr<QIODevice> content, Saved tell) override;
         Request request;
         Picked picked;
         std::vector<SavedDocument> saved;

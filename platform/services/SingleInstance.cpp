@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr auto onlyForOwner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 const auto objectPath = QStringLiteral("/org/freedesktop/Application");
 
 QString nameFor(const QString& program, const QString& folder)
@@ -16,23 +15,30 @@ QString nameFor(const QString& program, const QString& folder)
     return program + QStringLiteral(".in") + QString::fromLatin1(hash.left(16));
 }
 
-void makeFolder(const QString& folder)
+// Makes the folder if it is missing.
+QString lockFileIn(const QString& folder)
 {
     const QFileInfo place(folder);
     if (!place.exists() && QDir().mkpath(place.path()))
-        QDir().mkdir(folder, onlyForOwner);
+        QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return folder + QStringLiteral("/running.lock");
+}
+
+// False only where another program holds the lock.
+bool takeOver(QLockFile& lock)
+{
+    // Only a lock whose program no longer runs can be taken from it.
+    lock.setStaleLockTime(0);
+    return lock.tryLock(0) || lock.error() != QLockFile::LockFailedError;
 }
 
 } // namespace
 
 SingleInstance::SingleInstance(const QString& folder, const QString& name)
     : busName(nameFor(name, QDir::cleanPath(folder)))
-    , lock(folder + QStringLiteral("/running.lock"))
+    , lock(lockFileIn(folder))
+    , first(takeOver(lock))
 {
-    makeFolder(folder);
-    // Only a lock whose program no longer runs can be taken from it.
-    lock.setStaleLockTime(0);
-    first = lock.tryLock(0) || lock.error() != QLockFile::LockFailedError;
     if (first)
         listen();
 }
@@ -40,7 +46,8 @@ SingleInstance::SingleInstance(const QString& folder, const QString& name)
 void SingleInstance::listen()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    if (bus.isConnected() && bus.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots))
+    if (bus.isConnected() &&
+        bus.registerObject(objectPath, this, QDBusConnection::ExportScriptableInvokables))
         bus.registerService(busName);
 }
 

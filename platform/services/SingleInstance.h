@@ -21,9 +21,8 @@ public:
     // Asks the first one to show its window. Returns whether it took the message; waits a second at most.
     [[nodiscard]] bool wakeFirst() const;
 
-public Q_SLOTS:
     // Called over the bus.
-    Q_SCRIPTABLE void Activate(const QVariantMap& platformData);
+    Q_SCRIPTABLE Q_INVOKABLE void Activate(const QVariantMap& platformData);
 
 Q_SIGNALS:
     // Another start asks for the window. Its token lets a window come to the front; it may be empty.
@@ -35,5 +34,5 @@ private:
     // A name for each folder, since one session may use several.
     QString busName;
     QLockFile lock;
-    bool first = true;
+    bool first;
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr auto ownerOnlyFile = QFile::ReadOwner | QFile::WriteOwner;
+constexpr auto forOwner = QFile::ReadOwner | QFile::WriteOwner;
 constexpr auto forOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther |
                            QFile::WriteOther | QFile::ExeOther;
 
@@ -83,7 +83,7 @@ void keepToOwner(const QString& path)
     for (const auto* suffix : {"", "-wal", "-shm"}) {
         QFile file(path + QLatin1String(suffix));
         if (file.exists() && (file.permissions() & forOthers) != 0)
-            file.setPermissions(ownerOnlyFile);
+            file.setPermissions(forOwner);
     }
 }
 

@@ -25,7 +25,7 @@ void EditorChecks::checkTexts(const std::vector<Seen>& all, const ModelEditor& e
     const FormTexts found = formOf(all);
     for (const QString& label : expected.keys())
         if (found.value(label) != expected[label])
-            throw WalkFailure(QString("The field %1 opens with \"%2\", expected \"%3\"")
+            throw WalkFailure(QString(R"(The field %1 opens with "%2", expected "%3")")
                                   .arg(label, found.value(label), expected[label]));
 }
 

@@ -68,7 +68,7 @@ TEST(BackgroundTest, WorkInOrderRunsOneAtATimeAndContinuesOnTheMainThread)
         background(Pool::inOrder(), [&under, number] {
             EXPECT_EQ(under++, 0);
             EXPECT_NE(QThread::currentThread(), QCoreApplication::instance()->thread());
-            QThread::usleep(number % 5 * 100);
+            QThread::usleep(number % 5UL * 100);
             --under;
             return number;
         }).then(owner, [&continued](int number) {

@@ -116,7 +116,7 @@ Result<std::unique_ptr<Database>> Database::open(const QString& path, Access acc
         address += "?immutable=1";
         flags |= SQLITE_OPEN_READONLY;
     } else {
-        flags |= SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+        flags |= SQLITE_OPEN_READWRITE | (access == Access::Existing ? 0 : SQLITE_OPEN_CREATE);
     }
     sqlite3* handle = nullptr;
     const auto code = sqlite3_open_v2(address.constData(), &handle, flags, nullptr);
@@ -195,6 +195,39 @@ bool Database::isBusy(const NSError& error)
 {
     constexpr int primaryCode = 0xff;
     return (error.userInfo.value(QStringLiteral("SQLiteCode")).toInt() & primaryCode) == SQLITE_BUSY;
+}
+
+Status Database::replaceContent(Database& source, const std::function<Status()>& whenLocked)
+{
+    auto* copying = sqlite3_backup_init(handle.get(), "main", source.handle.get(), "main");
+    if (!copying)
+        return sqliteError(handle.get());
+    // Locks without copying. A page that can't be copied is reported by the end.
+    Status prepared = success();
+    if (sqlite3_backup_step(copying, 0) == SQLITE_OK) {
+        prepared = whenLocked ? whenLocked() : success();
+        if (prepared)
+            sqlite3_backup_step(copying, -1);
+    }
+    const bool isCopied = sqlite3_backup_remaining(copying) == 0;
+    const auto code = sqlite3_backup_finish(copying);
+    if (!prepared)
+        return prepared;
+    if (code != SQLITE_OK)
+        return sqliteError(handle.get());
+    return isCopied ? success() : NSError{QStringLiteral("The store could not be copied whole."), {}};
+}
+
+Status Database::check()
+{
+    auto checking = query("PRAGMA quick_check(1)");
+    const auto stepped = checking.step();
+    if (!stepped)
+        return stepped.error();
+    const auto answer = QString::fromUtf8(checking.text(0));
+    if (answer == QLatin1String("ok"))
+        return success();
+    return NSError{QStringLiteral("The store is damaged."), {{QStringLiteral("quick_check"), answer}}};
 }
 
 void Database::setCheckpointsOnClose(bool on)

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <unordered_map>
@@ -87,6 +88,8 @@ public:
         // Reads and writes, and makes the file when it is missing. Waits for another writer, at first for
         // five seconds (`setPatience`).
         ReadWrite,
+        // The same, but fails when the file is missing.
+        Existing,
         // Reads the file as it lies there, without its log; takes no lock and leaves no trace. Only a file
         // without a log is sure to be whole.
         Untouched,
@@ -117,6 +120,13 @@ public:
     void setPatience(std::chrono::milliseconds longest);
     // Whether `error` came of another connection's lock.
     [[nodiscard]] static bool isBusy(const NSError& error);
+    // Puts the content of `source`, all of it, in the place of this database's, in one transaction of each.
+    // No statement of this connection may be under way. Calls `whenLocked`, if given, once no other
+    // connection can write here and before anything is written: if it fails, nothing is. The copy says like
+    // `source` in its header whether it has a log.
+    [[nodiscard]] Status replaceContent(Database& source, const std::function<Status()>& whenLocked = {});
+    // Success when every page and row is as it should be (`quick_check`); reads the whole file.
+    [[nodiscard]] Status check();
     // Whether closing the last connection moves the log into the file (it does) or leaves both as they are.
     void setCheckpointsOnClose(bool on);
 

@@ -52,7 +52,14 @@ EntityTable::EntityTable(const NSEntityDescription& entity, NSManagedObjectConte
 
 EntityTable::~EntityTable()
 {
+    forgetAll();
+}
+
+void EntityTable::forgetAll()
+{
     held.forEach([](NSManagedObject& object) { object.context = nullptr; });
+    held = {};
+    distrustCounts();
 }
 
 Status EntityTable::fetch(const NSFetchRequest& request, const Sink& sink)

@@ -13,7 +13,6 @@ public:
     using Sink = std::function<void(std::shared_ptr<NSManagedObject>)>;
 
     EntityTable(const NSEntityDescription& entity, NSManagedObjectContext& context, Database& opened);
-    // Cuts the objects in memory loose.
     ~EntityTable();
     EntityTable(const EntityTable&) = delete;
     EntityTable& operator=(const EntityTable&) = delete;
@@ -30,6 +29,8 @@ public:
 
     // The object no longer stands for its row.
     void forget(const NSManagedObject& object) { held.remove(object.recordId); }
+    // No object in memory stands for a row any more.
+    void forgetAll();
     // Rows that were written may be gone again.
     void distrustCounts() { rowCount.reset(); }
 

@@ -15,6 +15,21 @@ NSManagedObjectContext::NSManagedObjectContext(const NSManagedObjectModel& model
 NSManagedObjectContext::~NSManagedObjectContext()
 {
     tables.clear();
+    forgetUnsaved();
+}
+
+void NSManagedObjectContext::reset()
+{
+    if (std::exchange(transactionOpen, false) && database->inTransaction())
+        // Ignored: what a rollback can't undo at once is undone when the connection is closed.
+        (void)database->run("ROLLBACK").ok();
+    for (const auto& table : tables)
+        table->forgetAll();
+    forgetUnsaved();
+}
+
+void NSManagedObjectContext::forgetUnsaved()
+{
     for (const auto& object : unsaved.takeAll())
         object->context = nullptr;
 }

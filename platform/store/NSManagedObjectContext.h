@@ -58,6 +58,10 @@ public:
     // The same, but waits for no lock.
     [[nodiscard]] Status trySave();
 
+    // Lets go of every object, as if its record was deleted elsewhere, and of every unsaved change: no object
+    // fetched before is ever saved again. For when the store's content was replaced as a whole.
+    void reset();
+
     // Calls `handler` after each attempt to save, with its outcome, for as long as the context lives.
     void addSaveHandler(SaveHandler handler) { saveHandlers.push_back(std::move(handler)); }
 
@@ -79,6 +83,7 @@ private:
     void flushIfPossible();
     [[nodiscard]] Status begin(std::chrono::milliseconds patience);
     void noticeRollback();
+    void forgetUnsaved();
     void settle();
     [[nodiscard]] Status setRelaxed(bool relaxed);
     void endBulkScope();

@@ -22,10 +22,21 @@ QString NSPersistentContainer::defaultDirectory() const
     return data + QLatin1Char('/') + containerName.toLower();
 }
 
+QString NSPersistentContainer::storePath(const QString& directory) const
+{
+    return QDir(directory).absoluteFilePath(containerName + QStringLiteral(".sqlite"));
+}
+
+void NSPersistentContainer::noteReplacedContent()
+{
+    viewContext().reset();
+    rest->noteSave(success());
+}
+
 Status NSPersistentContainer::loadPersistentStores(const QString& directory)
 {
-    const auto path = QDir(directory).absoluteFilePath(containerName + QStringLiteral(".sqlite"));
-    auto opened = openStoreFile(path, managedObjectModel);
+    const auto path = storePath(directory);
+    auto opened = openStoreFile(path, managedObjectModel, migrationHandler);
     if (!opened)
         return opened.error();
     context = std::make_unique<NSManagedObjectContext>(managedObjectModel, std::move(opened).value());

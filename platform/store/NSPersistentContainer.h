@@ -22,9 +22,17 @@ public:
     // In the user's data directory.
     [[nodiscard]] Status loadPersistentStores() { return loadPersistentStores(defaultDirectory()); }
 
+    // Calls `handler` when a store is about to be migrated, before it is written to. For the next loading.
+    void setMigrationHandler(std::function<void()> handler) { migrationHandler = std::move(handler); }
+    // Must be called after another connection has replaced the content of the store as a whole: resets the
+    // context and lets the log come to rest.
+    void noteReplacedContent();
+
     [[nodiscard]] QString name() const { return containerName; }
     // $XDG_DATA_HOME/<name in lower case>.
     [[nodiscard]] QString defaultDirectory() const;
+    // Where the store's file is in `directory`.
+    [[nodiscard]] QString storePath(const QString& directory) const;
 
     // Only after the stores were loaded.
     [[nodiscard]] NSManagedObjectContext& viewContext() const;
@@ -32,6 +40,7 @@ public:
 private:
     QString containerName;
     const NSManagedObjectModel& managedObjectModel;
+    std::function<void()> migrationHandler;
     std::unique_ptr<StoreRest> rest;
     std::unique_ptr<NSManagedObjectContext> context;
 };

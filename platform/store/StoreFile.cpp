@@ -87,7 +87,15 @@ void keepToOwner(const QString& path)
     }
 }
 
-Status makeReady(Database& database, const NSManagedObjectModel& model)
+// A file without a version is being made, not migrated.
+bool isOlder(Database& database, const NSManagedObjectModel& model)
+{
+    const auto version = database.number("PRAGMA user_version");
+    return version && version.value() > 0 && version.value() < model.version();
+}
+
+Status makeReady(Database& database, const NSManagedObjectModel& model,
+                 const std::function<void()>& beforeMigration)
 {
     if (const auto inspected = inspectInUse(database, model); !inspected)
         return inspected;
@@ -97,13 +105,16 @@ Status makeReady(Database& database, const NSManagedObjectModel& model)
         if (const auto set = database.run(setting); !set)
             return set;
     }
+    if (beforeMigration && isOlder(database, model))
+        beforeMigration();
     const auto migrated = migrate(database, model);
     return migrated ? database.run("PRAGMA foreign_keys = ON") : migrated;
 }
 
 } // namespace
 
-Result<std::unique_ptr<Database>> openStoreFile(const QString& path, const NSManagedObjectModel& model)
+Result<std::unique_ptr<Database>> openStoreFile(const QString& path, const NSManagedObjectModel& model,
+                                                const std::function<void()>& beforeMigration)
 {
     const auto withPath = [&](NSError error) {
         error.userInfo.insert(QStringLiteral("path"), path);
@@ -120,7 +131,7 @@ Result<std::unique_ptr<Database>> openStoreFile(const QString& path, const NSMan
     if (!opened)
         return withPath(opened.error());
     auto database = std::move(opened).value();
-    if (const auto ready = makeReady(*database, model); !ready)
+    if (const auto ready = makeReady(*database, model, beforeMigration); !ready)
         return withPath(ready.error());
     return database;
 }

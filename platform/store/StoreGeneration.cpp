@@ -49,17 +49,6 @@ std::optional<QByteArray> markWithin(const QString& path)
     return stepped.value() ? marks.text(0).toByteArray() : QByteArray();
 }
 
-// Must have reached the disk before the file gets its next mark: a half-moved log with the old mark beside it
-// would look like another store's.
-Status removeMarkBeside(const QString& path)
-{
-    if (!QFile::exists(markFile(path)))
-        return success();
-    if (!QFile::remove(markFile(path)))
-        return NSError{QStringLiteral("The mark beside the store could not be removed."), {}};
-    return syncFolderOf(path);
-}
-
 Status mark(Database& store, const QByteArray& mark)
 {
     const auto made = store.run(
@@ -83,6 +72,22 @@ Status emptyLog(Database& store)
 }
 
 } // namespace
+
+// Must have reached the disk before the file gets its next mark: a half-moved log with the old mark beside it
+// would look like another store's.
+Status removeMarkBeside(const QString& path)
+{
+    if (!QFile::exists(markFile(path)))
+        return success();
+    if (!QFile::remove(markFile(path)))
+        return NSError{QStringLiteral("The mark beside the store could not be removed."), {}};
+    return syncFolderOf(path);
+}
+
+Status removeMarkWithin(Database& copy)
+{
+    return copy.run("DROP TABLE IF EXISTS StoreGeneration");
+}
 
 bool hasLog(const QString& path)
 {

@@ -2,6 +2,8 @@
 
 #include "platform/foundation/Result.h"
 
+class Database;
+
 // Every time the log of a store file was moved into it, the file gets a new mark, which is repeated in a
 // small file beside it (<path>-generation). A log that has content then belongs to the file with that mark: a
 // copy put in the place of the file has another one, and the two must not be mixed. While the log is being
@@ -21,3 +23,10 @@
 
 // Whether there is a log with content beside `path`.
 [[nodiscard]] bool hasLog(const QString& path);
+
+// Removes the mark in the small file, so that nothing can be said until the log is moved next. The caller
+// must hold the store's write lock.
+[[nodiscard]] Status removeMarkBeside(const QString& path);
+
+// Removes the mark from `copy`, which then counts as another store than the one it was copied from.
+[[nodiscard]] Status removeMarkWithin(Database& copy);

@@ -59,7 +59,7 @@ const Thinned table[] = {
     {"nothing", at("2026-11-24T12:00:00Z"), {}, 0},
     {"today's twenty", at("2026-11-24T12:00:00Z"), every(1min, at("2026-11-24T11:00:00Z"), 25), 20},
     {"yesterday's last is kept although today has twenty", at("2026-11-24T12:00:00Z"),
-     every(30min, at("2026-11-24T10:00:00Z"), 23), 21},
+     every(33min, at("2026-11-24T09:59:00Z"), 22), 21},
     {"thirteen in one day last week leave one", at("2026-11-24T12:00:00Z"),
      every(10min, at("2026-11-18T12:00:00Z"), 13), 1},
     {"an absence removes nothing of twelve days", at("2036-11-24T12:00:00Z"),

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
+constexpr auto forOwnerAlone = QFile::ReadOwner | QFile::WriteOwner;
 const auto damagedKey = QStringLiteral("StoreDamaged");
 const auto roomKey = QStringLiteral("RoomMissing");
 
@@ -23,7 +23,7 @@ NSError fileError(const QString& sentence, const QString& path)
 Status makeEmptyFile(const QString& path)
 {
     QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly))
+    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly, forOwnerAlone))
         return success();
     return fileError(file.errorString(), path);
 }

@@ -41,10 +41,13 @@ public:
         QPromise<Value> promise;
         promise.start();
         const QFuture<Value> future = promise.future();
-        auto deliver = [owner = QPointer(&owner), continuation = std::move(continuation),
-                        outcome = future]() mutable {
+        // The queue may copy what it runs, and the thread of the work may drop the last copy: what the
+        // continuation holds is taken out of all of them first.
+        auto held = std::make_shared<std::optional<Continuation>>(std::move(continuation));
+        auto deliver = [owner = QPointer(&owner), held, outcome = future]() mutable {
+            auto once = std::exchange(*held, std::nullopt);
             if (owner && !outcome.isCanceled())
-                continuation(outcome.takeResult());
+                (*once)(outcome.takeResult());
         };
         auto job = std::make_shared<Job>(std::move(promise), std::move(work), std::move(deliver));
         pool.start([job = std::move(job)] { job->run(); });

@@ -3,6 +3,7 @@
 #include "platform/store/StoreGeneration.h"
 #include "tests/store/TestStore.h"
 
+#include <QElapsedTimer>
 #include <QTimeZone>
 #include <gmock/gmock.h>
 #include <sys/wait.h>
@@ -172,13 +173,20 @@ TEST_F(BackupFolderTest, KilledAtAnyMomentARestoreLeavesTheOldOrTheNewCatalogue)
     save({"Alien"});
     store.context.reset();
     int restored = 0;
-    for (int round = 0; round < 40; ++round) {
+    // The first one is not killed: it shows how long a restore takes here.
+    qint64 whole = 0;
+    for (qint64 round = 0; round < 40; ++round) {
+        QElapsedTimer clock;
+        clock.start();
         const pid_t child = ::fork();
         if (child == 0)
             ::_exit(backups.restore(full, testModel()) ? 0 : 1);
-        ::usleep(static_cast<useconds_t>(round * 1500));
-        ::kill(child, SIGKILL);
+        if (round > 0) {
+            ::usleep(static_cast<useconds_t>(whole * (round - 1) / 30));
+            ::kill(child, SIGKILL);
+        }
         ::waitpid(child, nullptr, 0);
+        whole = round == 0 ? clock.nsecsElapsed() / 1000 : whole;
         store.reopen();
         const FilmList films = store.all();
         ASSERT_TRUE(films.size() == 1 || films.size() == 300) << films.size();

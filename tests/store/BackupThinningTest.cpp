@@ -48,7 +48,8 @@ struct Thinned
 std::vector<BackupName> every(std::chrono::minutes step, const QDateTime& last, int count)
 {
     std::vector<BackupName> backups;
-    for (int index = 0; index < count; ++index)
+    backups.reserve(static_cast<std::size_t>(count));
+    for (std::int64_t index = 0; index < count; ++index)
         backups.push_back({last.addSecs(-index * 60 * step.count()), BackupReason::Automatic});
     return backups;
 }
@@ -126,7 +127,7 @@ TEST(BackupThinningTest, TwoYearsOfDailyUseLeaveAYearInEverWiderSteps)
     for (int day = 0; day < 730; ++day) {
         const bool isOnHoliday = day % 97 < 9;
         for (int use = 0; use < (isOnHoliday ? 0 : 1 + day % 7); ++use) {
-            backups.insert(backups.begin(), {now.addSecs(use * 1800), BackupReason::Automatic});
+            backups.insert(backups.begin(), {now.addSecs(qint64{use} * 1800), BackupReason::Automatic});
             const auto newest = backups.front();
             for (const BackupName& expired : expiredBackups(backups, newest.moment, berlin))
                 std::erase(backups, expired);

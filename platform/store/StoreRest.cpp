@@ -20,8 +20,8 @@ StoreRest::StoreRest(QString path)
 
 StoreRest::~StoreRest()
 {
-    // Ignored: the log stays, and the next opening reads it.
     if (saves > 0)
+        // Ignored: the log stays, and the next opening reads it.
         (void)moveLogIntoFile(path).ok();
 }
 

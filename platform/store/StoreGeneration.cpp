@@ -60,6 +60,18 @@ Status mark(Database& store, const QByteArray& mark)
     return marking.run();
 }
 
+// Another connection may have marked the file since: then its mark is the one that counts.
+Status requireMark(Database& store, const QByteArray& mark)
+{
+    auto marks = store.query("SELECT mark FROM StoreGeneration");
+    const auto stepped = marks.step();
+    if (!stepped)
+        return stepped.error();
+    if (stepped.value() && marks.text(0) == mark)
+        return success();
+    return NSError{QStringLiteral("Another connection moved the log meanwhile."), {}};
+}
+
 // The first column of the answer is 1 when the checkpoint was kept from its work.
 Status emptyLog(Database& store)
 {
@@ -109,7 +121,11 @@ Status moveLogIntoFile(const QString& path)
         [&] { return mark(store, fresh); },
         [&] { return store.run("COMMIT"); },
         [&] { return emptyLog(store); },
+        // Both files change their marks only under the lock, so that they never end with different ones.
+        [&] { return store.run("BEGIN IMMEDIATE"); },
+        [&] { return requireMark(store, fresh); },
         [&] { return writeAtomically(fresh, markFile(path), FileReaders::OwnerOnly); },
+        [&] { return store.run("ROLLBACK"); },
     };
     for (const auto& step : steps) {
         if (const auto done = step(); !done)

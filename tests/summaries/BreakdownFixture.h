@@ -36,17 +36,6 @@ protected:
         return movie;
     }
 
-    static void chooseGroupsOfAlien()
-    {
-        MovieFields& chosen = shared().CurrentMovie;
-        chosen.provider = "Netflix";
-        chosen.genre = "Horror";
-        chosen.rating = "R";
-        chosen.yearReleased = 1979;
-        shared().SelectedYear = 2021;
-        shared().SelectedMonth = 3;
-    }
-
     PlainStoryboard storyboard;
     UINavigationController navigation{storyboard};
 };

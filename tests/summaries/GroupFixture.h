@@ -36,8 +36,6 @@ protected:
         return texts;
     }
 
-    static QString header(GroupTableViewController& screen) { return screen.viewForHeaderInSection(0)->text; }
-
     PlainStoryboard storyboard;
     UINavigationController navigation{storyboard};
     UITabBarController* tabs = nullptr;

@@ -16,20 +16,6 @@ QUrl fileWith(const QByteArray& bytes)
     return QUrl::fromLocalFile(file.fileName());
 }
 
-TEST_F(ImportTest, ButtonsFollowTheInterfaceStyle)
-{
-    for (const bool dark : {false, true}) {
-        device.setDark(dark);
-        ImportViewController import;
-        import.viewDidLoad();
-        const Layer expected{
-            .cornerRadius = 10, .borderWidth = 1, .borderColor = dark ? Qt::white : Qt::black};
-        for (const UIButton* button : {import.ImportButton, import.LoadFileButton})
-            EXPECT_EQ(button->layer(), expected);
-        EXPECT_EQ(import.ImportButton->disabledTitleColor(), QColor(Qt::gray));
-    }
-}
-
 TEST_F(ImportTest, PickerOffersTheKindsThatThePlatformKnows)
 {
     const auto offered = [this](double version) {

@@ -80,36 +80,4 @@ TEST_F(PrintTest, NothingToPrintIsSaidAtOnceAndAgain)
     EXPECT_NE(unknown.presentedViewController(), nullptr);
 }
 
-TEST_F(PrintTest, TheCallerSaysWhatIsPrinted)
-{
-    MovieFields& chosen = shared().CurrentMovie;
-    chosen.provider = "DVD";
-    chosen.genre = "Epic";
-    chosen.rating = "R";
-    chosen.yearReleased = 1999;
-    shared().SelectedYear = 2021;
-    shared().SelectedMonth = 3;
-    given({.name = "GenreBreakdown", .genre = "Epic"});
-    given({.name = "RatingBreakdown", .rating = "R"});
-    given({.name = "DateReleasedBreakdown", .year = 1999});
-    given({.name = "ProviderBreakdown"})->setProvider(QString("DVD"));
-    const auto watched = given({.name = "DateWatchedBreakdown"});
-    watched->setWYear(2021);
-    watched->setWMonth(3);
-    EXPECT_TRUE(context().save().ok());
-    for (const char* caller : {"GenreBreakdown", "RatingBreakdown", "DateReleasedBreakdown",
-                               "ProviderBreakdown", "DateWatchedBreakdown"}) {
-        const auto& screen = openedFrom(caller);
-        ASSERT_EQ(screen.MovieList.size(), 1U) << caller;
-        EXPECT_EQ(screen.MovieList.front()->movieName(), QString(caller));
-        navigation.pop();
-    }
-    for (const bool ascending : {true, false}) {
-        shared().GlobalSortAsc = ascending;
-        const auto& screen = openedFrom("MainMenu");
-        EXPECT_EQ(screen.MovieList.size(), 8U);
-        EXPECT_EQ(screen.MovieList.back()->movieName(), QString(ascending ? "c" : "DateReleasedBreakdown"));
-    }
-}
-
 } // namespace
